@@ -1,0 +1,32 @@
+#pragma once
+// The page report buffer and its line writers.
+
+#include <cstdint>
+#include <string>
+
+namespace zentrel {
+struct AppState;
+}
+
+namespace zentrel::analysis {
+
+inline constexpr int32_t kReportBufferStart = 100000;
+inline constexpr int32_t kReportBufferStep = 25000;
+
+struct PageReportFields {
+  std::string ReportBuffer;
+  int32_t ReportBufferSize = 0;
+  int32_t ReportWritePos = 1;  // 1-based
+};
+
+void Reset_Report(AppState& s);
+void Report(AppState& s, const std::string& text);
+void Report_Center(AppState& s, const std::string& text);
+std::string Report_Center_AddString(const std::string& text);
+void Report_Section_Break(AppState& s, const std::string& text);
+void Report_Title(AppState& s, const std::string& text);
+void Reports_Colour_Warnings(AppState& s);
+// What the report holds so far: the first ReportWritePos characters of the buffer.
+std::string Report_Text(const AppState& s);
+
+}  // namespace zentrel::analysis

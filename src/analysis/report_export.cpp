@@ -1,0 +1,5 @@
+#include "analysis/report_export.h"
+
+#include "app/app_state.h"
+
+namespace zentrel::analysis {}  // namespace zentrel::analysis

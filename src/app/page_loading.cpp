@@ -1,0 +1,5 @@
+#include "app/page_loading.h"
+
+#include "app/app_state.h"
+
+namespace zentrel::app {}  // namespace zentrel::app

@@ -1,0 +1,5 @@
+#include "app/preferences.h"
+
+#include "app/app_state.h"
+
+namespace zentrel::app {}  // namespace zentrel::app

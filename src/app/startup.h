@@ -1,0 +1,25 @@
+#pragma once
+// Start-up, the program title, the setting defaults and shut-down.
+
+#include <string>
+
+namespace zentrel {
+struct AppState;
+}
+
+namespace zentrel::app {
+
+inline constexpr const char* kProgramName = "Zentrel";
+inline constexpr const char* kProgramVersion = "V1.62";
+
+void Form_Load(AppState& s);
+void Init_Programs_Defaults(AppState& s);
+void SET_PROGRAM_TITLE(AppState& s, const std::string& suffix);
+void Reset_Default_Html_Word_Delimiter(AppState& s);
+void SET_CHeck_boxes(AppState& s);
+// The program folder rule: the executable's folder with one trailing separator dropped.
+std::string Program_Folder(const std::string& executableFolder);
+void Form_Unload(AppState& s);
+void ProgramEnded(AppState& s);
+
+}  // namespace zentrel::app

@@ -1,0 +1,54 @@
+#pragma once
+// Whole-file reads, the file-exists test, comma-delimited list input, and the atomic writer
+// through which every file the program writes is replaced: written in full to a temporary
+// file beside the target, flushed, then renamed over it, so a failed save never loses the
+// old file. The system calls it makes go through FileSystem so tests can make them fail.
+
+#include <string>
+#include <string_view>
+#include <sys/types.h>
+#include <stdexcept>
+#include <vector>
+
+namespace zentrel::file_io {
+
+// A file that could not be read or written; the message names the file, the operation and
+// the cause ("Cannot save "/a/b.html": writing failed: No space left on device").
+class FileError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// The system calls of the atomic writer. Each returns what the POSIX call returns and leaves
+// errno set on failure.
+class FileSystem {
+ public:
+  virtual ~FileSystem() = default;
+  virtual int MakeTemp(std::string& path_template);  // mkstemp; fills in the name
+  virtual ssize_t Write(int fd, const char* data, size_t size);
+  virtual int Fsync(int fd);
+  virtual int Close(int fd);
+  virtual int Rename(const std::string& from, const std::string& to);
+  virtual int Unlink(const std::string& path);
+};
+
+FileSystem& RealFileSystem();
+
+// True exactly when the path's attributes can be read (a folder counts); never throws.
+bool FileExists(const std::string& path);
+
+// The file's bytes; throws FileError for a missing, unreadable or folder path.
+std::string ReadWholeFile(const std::string& path);
+
+// Replaces (or creates) path with bytes atomically. A symbolic link is kept and its target
+// replaced; an existing file keeps its permissions. Throws FileError; on failure the old file
+// is untouched and no temporary file is left behind.
+void WriteFileAtomic(const std::string& path, std::string_view bytes,
+                     FileSystem& fs = RealFileSystem());
+
+// Reads items the way comma-delimited text input does: leading blanks skipped, a value in
+// double quotes taken without them (commas included), otherwise the item ends at a comma or
+// at the end of the line (CR LF, LF or CR) with trailing blanks dropped.
+std::vector<std::string> ReadListItems(std::string_view content);
+
+}  // namespace zentrel::file_io

@@ -1,0 +1,42 @@
+#pragma once
+// The filter dictionary: common words that the word count leaves out. Its working copy is the
+// "Prefs" text box; the list in memory is rebuilt from it, sorted and without repeats.
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace zentrel {
+struct AppState;
+}
+
+namespace zentrel::words {
+
+struct FilterDictionaryFields {
+  std::vector<std::string> FilterWords;  // indexes 0..FilterCapacity
+  int16_t FilterCount = 0;
+  int16_t FilterCapacity = 0;
+  std::vector<std::string> FilterSortScratch;
+  std::array<uint16_t, 256> FilterFirstIndex{};
+  std::array<uint16_t, 256> FilterLastIndex{};
+  std::string FilterWordsText;  // " w1 w2 ... wn  "
+};
+
+// "\dictionary\Zentrel_Standard.txt" under the program folder, lower-cased.
+std::string Standard_Dictionary_Path(const AppState& s);
+void Load_Word_Filter_Dictionary(AppState& s, const std::string& path,
+                                 const std::string& textToAppendTo);
+void Save_Word_Filter_Dictionary(AppState& s, const std::string& path);
+void Resort_And_Removed_Doubles_From_Filter_Dictionary(AppState& s);
+void Add_Word_Filter(AppState& s, const std::string& word);
+void Sort_Filter_Word_Dictionary(AppState& s);
+void Remove_Doubles_Filter_Word_Dictionary(AppState& s);
+void Build_Filter_AlphaBet_Range_Pointers(AppState& s, int16_t lastIndex);
+void Build_Filter_Word_Dictionary(AppState& s);
+void Load_Default_Word_Filters(AppState& s, const std::string& path);
+void SetWordFilter_TextBoxes(AppState& s);
+// The filter string the word count searches: " " then each word and a space.
+void Build_Filter_Words_Text(AppState& s);
+
+}  // namespace zentrel::words

@@ -1,0 +1,56 @@
+#pragma once
+// The scripted Platform of the tests: a queue of answers for dialogs and questions, a log of
+// every question and message shown. A question with no scripted answer, or an answer left
+// unused when the fake is destroyed, fails the test.
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "app/platform.h"
+
+namespace zentrel::testing {
+
+class FakePlatform : public app::Platform {
+ public:
+  explicit FakePlatform(std::string executableFolder = "/nonexistent-zentrel-folder");
+  ~FakePlatform() override;
+
+  // Scripted answers, consumed in order.
+  void AnswerOpen(const std::string& path, int filterIndex = -1, const std::string& ext = "");
+  void AnswerSave(const std::string& path, int filterIndex = -1, const std::string& ext = "");
+  void CancelDialog();
+  void AnswerYes();
+  void AnswerNo();
+
+  bool ShowOpen(app::FileDialog& dialog) override;
+  bool ShowSave(app::FileDialog& dialog) override;
+  bool AskYesNo(const std::string& title, const std::string& text) override;
+  void ShowMessage(const std::string& text) override;
+  void BeginBusy() override { ++busyDepth; ++busyCount; }
+  void EndBusy() override { --busyDepth; }
+  void DoEvents() override { ++eventsRun; }
+  void OpenDocument(const std::string& path) override { openedDocuments.push_back(path); }
+  std::string ExecutableFolder() override { return executableFolder; }
+
+  std::string executableFolder;
+  std::vector<std::string> questions;  // "TITLE: text"
+  std::vector<std::string> messages;
+  std::vector<app::FileDialog> dialogs;  // what each dialog was shown with
+  std::vector<std::string> openedDocuments;
+  int busyDepth = 0;
+  int busyCount = 0;
+  long eventsRun = 0;
+
+ private:
+  struct Answer {
+    enum Kind { Open, Save, Cancel, Yes, No } kind;
+    std::string path;
+    int filterIndex = -1;
+    std::string ext;
+  };
+  bool Dialog(app::FileDialog& dialog, Answer::Kind kind);
+  std::deque<Answer> answers_;
+};
+
+}  // namespace zentrel::testing
