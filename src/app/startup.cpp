@@ -50,18 +50,23 @@ void Fill_Min_Matches_DropDown(AppState& s) {
   box.Text.clear();
   for (int n = 1; n <= kMaxMinMatches; ++n) {
     box.List.push_back(text::SignedNumber(n) + (n == 1 ? " Match" : " Matches"));
-    if (n == s.KeywordsMinMatches) box.Text = box.List.back();
+    if (n == s.KeywordsMinMatches)
+      box.Text = box.List.back();
   }
 }
 
 void Build_Letter_Table(AppState& s) {
-  for (int c = 'a'; c <= 'z'; ++c) At(s.LetterTable, c) = 1;
-  for (int c = 'A'; c <= 'Z'; ++c) At(s.LetterTable, c) = 1;
+  for (int c = 'a'; c <= 'z'; ++c)
+    At(s.LetterTable, c) = 1;
+  for (int c = 'A'; c <= 'Z'; ++c)
+    At(s.LetterTable, c) = 1;
 }
 
 }  // namespace
 
-void Form_Load(AppState& s) { Init_Programs_Defaults(s); }
+void Form_Load(AppState& s) {
+  Init_Programs_Defaults(s);
+}
 
 void Init_Programs_Defaults(AppState& s) {
   s.Form.Left = s.Form.ScreenWidth / 2 - s.Form.Width / 2;
@@ -123,11 +128,14 @@ void SET_CHeck_boxes(AppState& s) {
 
 std::string Program_Folder(const std::string& executableFolder) {
   std::string folder = executableFolder;
-  if (!folder.empty() && folder.back() == '/') folder.pop_back();
+  if (!folder.empty() && folder.back() == '/')
+    folder.pop_back();
   return folder;
 }
 
-void Form_Unload(AppState& s) { ProgramEnded(s); }
+void Form_Unload(AppState& s) {
+  ProgramEnded(s);
+}
 
 void ProgramEnded(AppState& s) {
   // A preferences file that cannot be written must not keep the program from closing; the

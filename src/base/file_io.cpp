@@ -1,25 +1,35 @@
 #include "base/file_io.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace zentrel::file_io {
 
 namespace fs = std::filesystem;
 
-int FileSystem::MakeTemp(std::string& path_template) { return ::mkstemp(path_template.data()); }
-ssize_t FileSystem::Write(int fd, const char* data, size_t size) { return ::write(fd, data, size); }
-int FileSystem::Fsync(int fd) { return ::fsync(fd); }
-int FileSystem::Close(int fd) { return ::close(fd); }
+int FileSystem::MakeTemp(std::string& path_template) {
+  return ::mkstemp(path_template.data());
+}
+ssize_t FileSystem::Write(int fd, const char* data, size_t size) {
+  return ::write(fd, data, size);
+}
+int FileSystem::Fsync(int fd) {
+  return ::fsync(fd);
+}
+int FileSystem::Close(int fd) {
+  return ::close(fd);
+}
 int FileSystem::Rename(const std::string& from, const std::string& to) {
   return std::rename(from.c_str(), to.c_str());
 }
-int FileSystem::Unlink(const std::string& path) { return ::unlink(path.c_str()); }
+int FileSystem::Unlink(const std::string& path) {
+  return ::unlink(path.c_str());
+}
 
 FileSystem& RealFileSystem() {
   static FileSystem real;
@@ -30,8 +40,8 @@ namespace {
 
 [[noreturn]] void Fail(const std::string& verb, const std::string& path, const std::string& step,
                        int err) {
-  throw FileError("Cannot " + verb + " \"" + path + "\": " + step + " failed: " +
-                  std::strerror(err));
+  throw FileError("Cannot " + verb + " \"" + path + "\": " + step +
+                  " failed: " + std::strerror(err));
 }
 
 // The file a save really replaces: the final target of a symbolic link, so the link stays.
@@ -39,7 +49,8 @@ std::string ResolveTarget(const std::string& path) {
   std::error_code ec;
   if (fs::is_symlink(fs::symlink_status(path, ec))) {
     fs::path target = fs::weakly_canonical(fs::path(path), ec);
-    if (!ec) return target.string();
+    if (!ec)
+      return target.string();
   }
   return path;
 }
@@ -49,7 +60,8 @@ void WriteAll(FileSystem& fsys, int fd, std::string_view bytes, const std::strin
   size_t done = 0;
   while (done < bytes.size()) {
     ssize_t n = fsys.Write(fd, bytes.data() + done, bytes.size() - done);
-    if (n < 0 && errno == EINTR) continue;
+    if (n < 0 && errno == EINTR)
+      continue;
     if (n <= 0) {
       int err = n == 0 ? ENOSPC : errno;
       fsys.Close(fd);
@@ -73,18 +85,21 @@ std::string ReadWholeFile(const std::string& path) {
     throw FileError("Cannot read \"" + path + "\": it is a folder, not a file");
   }
   int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (fd < 0) Fail("read", path, "opening", errno);
+  if (fd < 0)
+    Fail("read", path, "opening", errno);
   std::string bytes;
   char buffer[1 << 16];
   while (true) {
     ssize_t n = ::read(fd, buffer, sizeof buffer);
-    if (n < 0 && errno == EINTR) continue;
+    if (n < 0 && errno == EINTR)
+      continue;
     if (n < 0) {
       int err = errno;
       ::close(fd);
       Fail("read", path, "reading", err);
     }
-    if (n == 0) break;
+    if (n == 0)
+      break;
     bytes.append(buffer, static_cast<size_t>(n));
   }
   ::close(fd);
@@ -101,11 +116,11 @@ void WriteFileAtomic(const std::string& path, std::string_view bytes, FileSystem
   const bool existed = ::stat(target.c_str(), &old) == 0;
 
   fs::path dir = fs::path(target).parent_path();
-  std::string temp =
-      (dir.empty() ? fs::path(".") : dir).string() + "/." +
-      fs::path(target).filename().string() + ".zentrel-XXXXXX";
+  std::string temp = (dir.empty() ? fs::path(".") : dir).string() + "/." +
+                     fs::path(target).filename().string() + ".zentrel-XXXXXX";
   int fd = fsys.MakeTemp(temp);
-  if (fd < 0) Fail("save", path, "creating a temporary file", errno);
+  if (fd < 0)
+    Fail("save", path, "creating a temporary file", errno);
 
   WriteAll(fsys, fd, bytes, path, temp);
   // mkstemp makes the file 0600; a replaced page keeps its mode, a new one gets the usual one.
@@ -140,28 +155,36 @@ std::vector<std::string> ReadListItems(std::string_view content) {
   const size_t n = content.size();
   auto at_line_end = [&](size_t k) { return content[k] == '\r' || content[k] == '\n'; };
   auto skip_line_end = [&]() {
-    if (i < n && content[i] == '\r') ++i;
-    if (i < n && content[i] == '\n') ++i;
+    if (i < n && content[i] == '\r')
+      ++i;
+    if (i < n && content[i] == '\n')
+      ++i;
   };
   while (i < n) {
-    while (i < n && (content[i] == ' ' || content[i] == '\t')) ++i;
+    while (i < n && (content[i] == ' ' || content[i] == '\t'))
+      ++i;
     std::string item;
     if (i < n && content[i] == '"') {
       size_t close = content.find('"', i + 1);
-      if (close == std::string_view::npos) close = n;
+      if (close == std::string_view::npos)
+        close = n;
       item.assign(content.substr(i + 1, close - i - 1));
       i = close < n ? close + 1 : n;
-      while (i < n && content[i] != ',' && !at_line_end(i)) ++i;  // rest after the quote
+      while (i < n && content[i] != ',' && !at_line_end(i))
+        ++i;  // rest after the quote
     } else {
       size_t start = i;
-      while (i < n && content[i] != ',' && !at_line_end(i)) ++i;
+      while (i < n && content[i] != ',' && !at_line_end(i))
+        ++i;
       item.assign(content.substr(start, i - start));
-      while (!item.empty() && (item.back() == ' ' || item.back() == '\t')) item.pop_back();
+      while (!item.empty() && (item.back() == ' ' || item.back() == '\t'))
+        item.pop_back();
     }
     items.push_back(std::move(item));
     if (i < n && content[i] == ',') {
       ++i;
-      if (i == n) items.emplace_back();
+      if (i == n)
+        items.emplace_back();
     } else {
       skip_line_end();
     }

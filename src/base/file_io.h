@@ -4,10 +4,10 @@
 // file beside the target, flushed, then renamed over it, so a failed save never loses the
 // old file. The system calls it makes go through FileSystem so tests can make them fail.
 
-#include <string>
-#include <string_view>
 #include <sys/types.h>
 #include <stdexcept>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace zentrel::file_io {

@@ -9,7 +9,9 @@ RunTimeError::RunTimeError(int code, const std::string& text)
       code_(code),
       text_(text) {}
 
-void RaiseOverflow() { throw RunTimeError(RunTimeError::kOverflow, "Overflow"); }
+void RaiseOverflow() {
+  throw RunTimeError(RunTimeError::kOverflow, "Overflow");
+}
 
 void RaiseSubscriptOutOfRange() {
   throw RunTimeError(RunTimeError::kSubscriptOutOfRange, "Subscript out of range");

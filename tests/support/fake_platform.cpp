@@ -17,9 +17,15 @@ void FakePlatform::AnswerOpen(const std::string& path, int filterIndex, const st
 void FakePlatform::AnswerSave(const std::string& path, int filterIndex, const std::string& ext) {
   answers_.push_back({Answer::Save, path, filterIndex, ext});
 }
-void FakePlatform::CancelDialog() { answers_.push_back({Answer::Cancel, "", -1, ""}); }
-void FakePlatform::AnswerYes() { answers_.push_back({Answer::Yes, "", -1, ""}); }
-void FakePlatform::AnswerNo() { answers_.push_back({Answer::No, "", -1, ""}); }
+void FakePlatform::CancelDialog() {
+  answers_.push_back({Answer::Cancel, "", -1, ""});
+}
+void FakePlatform::AnswerYes() {
+  answers_.push_back({Answer::Yes, "", -1, ""});
+}
+void FakePlatform::AnswerNo() {
+  answers_.push_back({Answer::No, "", -1, ""});
+}
 
 bool FakePlatform::Dialog(app::FileDialog& dialog, Answer::Kind kind) {
   dialogs.push_back(dialog);
@@ -29,21 +35,28 @@ bool FakePlatform::Dialog(app::FileDialog& dialog, Answer::Kind kind) {
   }
   Answer a = answers_.front();
   answers_.pop_front();
-  if (a.kind == Answer::Cancel) return false;
+  if (a.kind == Answer::Cancel)
+    return false;
   EXPECT_EQ(a.kind, kind) << "the scripted answer is for the other kind of dialog";
   dialog.FileName = a.path;
-  if (a.filterIndex >= 0) dialog.FilterIndex = a.filterIndex;
-  if (!a.ext.empty()) dialog.DefaultExt = a.ext;
+  if (a.filterIndex >= 0)
+    dialog.FilterIndex = a.filterIndex;
+  if (!a.ext.empty())
+    dialog.DefaultExt = a.ext;
   return true;
 }
 
-bool FakePlatform::ShowOpen(app::FileDialog& dialog) { return Dialog(dialog, Answer::Open); }
-bool FakePlatform::ShowSave(app::FileDialog& dialog) { return Dialog(dialog, Answer::Save); }
+bool FakePlatform::ShowOpen(app::FileDialog& dialog) {
+  return Dialog(dialog, Answer::Open);
+}
+bool FakePlatform::ShowSave(app::FileDialog& dialog) {
+  return Dialog(dialog, Answer::Save);
+}
 
 bool FakePlatform::AskYesNo(const std::string& title, const std::string& text) {
   questions.push_back(title + ": " + text);
-  if (answers_.empty() || (answers_.front().kind != Answer::Yes &&
-                           answers_.front().kind != Answer::No)) {
+  if (answers_.empty() ||
+      (answers_.front().kind != Answer::Yes && answers_.front().kind != Answer::No)) {
     ADD_FAILURE() << "unexpected question: " << text;
     return false;
   }
@@ -52,6 +65,8 @@ bool FakePlatform::AskYesNo(const std::string& title, const std::string& text) {
   return yes;
 }
 
-void FakePlatform::ShowMessage(const std::string& text) { messages.push_back(text); }
+void FakePlatform::ShowMessage(const std::string& text) {
+  messages.push_back(text);
+}
 
 }  // namespace zentrel::testing

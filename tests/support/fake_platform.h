@@ -27,7 +27,10 @@ class FakePlatform : public app::Platform {
   bool ShowSave(app::FileDialog& dialog) override;
   bool AskYesNo(const std::string& title, const std::string& text) override;
   void ShowMessage(const std::string& text) override;
-  void BeginBusy() override { ++busyDepth; ++busyCount; }
+  void BeginBusy() override {
+    ++busyDepth;
+    ++busyCount;
+  }
   void EndBusy() override { --busyDepth; }
   void DoEvents() override { ++eventsRun; }
   void OpenDocument(const std::string& path) override { openedDocuments.push_back(path); }

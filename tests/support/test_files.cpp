@@ -14,13 +14,16 @@ std::string TestDataPath(const std::string& name) {
 
 std::string ReadFile(const std::filesystem::path& path) {
   std::ifstream in(path, std::ios::binary);
-  if (!in) throw std::runtime_error("cannot read " + path.string());
+  if (!in)
+    throw std::runtime_error("cannot read " + path.string());
   std::ostringstream out;
   out << in.rdbuf();
   return out.str();
 }
 
-std::string ReadTestData(const std::string& name) { return ReadFile(TestDataPath(name)); }
+std::string ReadTestData(const std::string& name) {
+  return ReadFile(TestDataPath(name));
+}
 
 void WriteFile(const std::filesystem::path& path, const std::string& bytes) {
   std::ofstream out(path, std::ios::binary | std::ios::trunc);
@@ -29,7 +32,8 @@ void WriteFile(const std::filesystem::path& path, const std::string& bytes) {
 
 TempFolder::TempFolder() {
   std::string pattern = (std::filesystem::temp_directory_path() / "zentrel-test-XXXXXX").string();
-  if (!mkdtemp(pattern.data())) throw std::runtime_error("mkdtemp failed");
+  if (!mkdtemp(pattern.data()))
+    throw std::runtime_error("mkdtemp failed");
   path_ = pattern;
 }
 
