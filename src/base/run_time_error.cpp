@@ -9,6 +9,10 @@ RunTimeError::RunTimeError(int code, const std::string& text)
       code_(code),
       text_(text) {}
 
+void RaiseInvalidProcedureCall() {
+  throw RunTimeError(RunTimeError::kInvalidProcedureCall, "Invalid procedure call or argument");
+}
+
 void RaiseOverflow() {
   throw RunTimeError(RunTimeError::kOverflow, "Overflow");
 }

@@ -11,6 +11,7 @@ namespace zentrel {
 
 class RunTimeError : public std::runtime_error {
  public:
+  static constexpr int kInvalidProcedureCall = 5;
   static constexpr int kOverflow = 6;
   static constexpr int kSubscriptOutOfRange = 9;
 
@@ -27,6 +28,7 @@ class RunTimeError : public std::runtime_error {
   std::string text_;
 };
 
+[[noreturn]] void RaiseInvalidProcedureCall();  // "Invalid procedure call or argument"
 [[noreturn]] void RaiseOverflow();
 [[noreturn]] void RaiseSubscriptOutOfRange();
 

@@ -14,7 +14,9 @@ namespace zentrel::metatags {
 inline constexpr const char* kTempDataFileName = "Zentrel_TempData.tmp";
 
 std::string Build_Meta_Tag(const AppState& s, const std::string& content, const std::string& name);
-void HTML_ENCODE_Document(AppState& s, const std::string& fileName, int16_t rebuildFlag);
+// True when the page was written and loaded back; false when nothing was changed (empty name or
+// document, or No to the WARNING question).
+bool HTML_ENCODE_Document(AppState& s, const std::string& fileName, int16_t rebuildFlag);
 
 void MetaTagEncodePref_SwapContentAndNameOrder_CheckBox_Click(AppState& s);
 void MetaTagEncodePref_UseComaSpaceBetweenKeyWords_CheckBox_Click(AppState& s);
