@@ -1,10 +1,17 @@
 #include <QApplication>
 
+#include "ui/about_box.h"
 #include "ui/main_window.h"
+#include "ui/qt_platform.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
-  zentrel::ui::MainWindow window;
+  QApplication::setApplicationName(QStringLiteral("Zentrel"));
+  zentrel::ui::QtPlatform platform;
+  zentrel::ui::MainWindow window(platform);
+  platform.SetOwner(&window);
   window.show();
+  if (zentrel::ui::SplashWanted())
+    window.ShowSplash();
   return app.exec();
 }

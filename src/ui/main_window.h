@@ -1,17 +1,57 @@
 #pragma once
+// The main window: six tabs, the "&File" and "&Help" menus, and the one path by which every
+// click reaches the core (the user's edits go into the Form, the handler runs guarded, what
+// changed comes back into the widgets).
 
 #include <QMainWindow>
+#include <functional>
+#include <string>
+
+#include "app/app_state.h"
+#include "ui/controls.h"
+#include "ui/form_binding.h"
 
 class QTabWidget;
 
 namespace zentrel::ui {
 
+class EditPageTab;
+class frmAbout;
+class Frm_SplashScreen;
+
 class MainWindow : public QMainWindow {
  public:
-  explicit MainWindow(QWidget* parent = nullptr);
+  explicit MainWindow(app::Platform& platform, QWidget* parent = nullptr);
+  ~MainWindow() override;
+
+  // Runs the named control's handler as a click on it does.
+  void Run(const std::string& name);
+  // Loads and analyses a page as "Load Page" does once the file is chosen (a dropped file).
+  void LoadDroppedFile(const std::string& path);
+  void ShowAbout();
+  void ShowSplash();
+  // The page's codec (tests and screenshots look at it).
+  Codec PageCodec() const { return bind_.PageCodec(); }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
-  QTabWidget* tabs_;
+  void Sync(const std::function<void(AppState&)>& command);
+  void BuildTabs();
+  void BuildMenus();
+  void PlaceWindow();
+
+  AppState s_;
+  FormBinding bind_;
+  View view_;
+  QTabWidget* tabs_ = nullptr;
+  EditPageTab* editPage_ = nullptr;
+  frmAbout* about_ = nullptr;
+  Frm_SplashScreen* splash_ = nullptr;
+  bool running_ = false;
 };
 
 }  // namespace zentrel::ui

@@ -1,0 +1,298 @@
+#include "ui/form_binding.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSignalBlocker>
+#include <QTabWidget>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <memory>
+
+#include "app/app_state.h"
+
+namespace zentrel::ui {
+
+namespace {
+
+// What a widget was last shown, in the Form's terms, and the codec generation it was shown in.
+struct Shown {
+  std::string bytes;
+  QString text;
+  int generation = -1;
+  bool dirty = false;
+};
+
+// The editor's text as the page holds it: QTextDocument keeps no line ends of its own, so a
+// page that used CR LF gets CR LF back; no-break spaces stay as they are.
+QString EditorText(const QPlainTextEdit* w, bool crlf) {
+  QString text = w->document()->toRawText();
+  text.replace(QChar::ParagraphSeparator, crlf ? QStringLiteral("\r\n") : QStringLiteral("\n"));
+  return text;
+}
+
+// Counts the texts a page editor was given, so its selection knows when the caret went home.
+constexpr const char* kTextVersion = "zentrelTextVersion";
+
+bool UsesCrLf(const std::string& bytes) {
+  std::size_t crlf = 0, lf = 0;
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    if (bytes[i] == '\n')
+      (i > 0 && bytes[i - 1] == '\r') ? ++crlf : ++lf;
+  }
+  return crlf >= lf && crlf > 0;
+}
+
+QString MenuText(QString caption) {
+  return caption.replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
+
+}  // namespace
+
+FormBinding::FormBinding(AppState& s) : s_(s) {}
+
+QString FormBinding::Show(const std::string& bytes, TextKind kind) const {
+  return kind == TextKind::Path ? DecodePath(bytes) : Decode(bytes, codec_);
+}
+
+std::string FormBinding::Take(const QString& text, TextKind kind) const {
+  return kind == TextKind::Path ? EncodePath(text) : Encode(text, codec_);
+}
+
+void FormBinding::Changed() {
+  if (onUserChange_)
+    onUserChange_();
+}
+
+void FormBinding::LineEdit(QLineEdit* w, std::string* field, Setter setter, TextKind kind) {
+  auto shown = std::make_shared<Shown>();
+  if (setter) {
+    QObject::connect(w, &QLineEdit::textEdited, w, [this] { Changed(); });
+  }
+  entries_.push_back({[this, w, field, setter, kind, shown] {
+                        if (w->text() == shown->text)
+                          return;
+                        shown->text = w->text();
+                        shown->bytes = Take(shown->text, kind);
+                        if (setter)
+                          setter(s_, shown->bytes);
+                        else
+                          *field = shown->bytes;
+                      },
+                      [this, w, field, kind, shown] {
+                        if (shown->generation == generation_ && shown->bytes == *field)
+                          return;
+                        const QSignalBlocker block(w);
+                        shown->bytes = *field;
+                        shown->text = Show(*field, kind);
+                        shown->generation = generation_;
+                        w->setText(shown->text);
+                        w->setCursorPosition(0);
+                      }});
+}
+
+void FormBinding::TextArea(QPlainTextEdit* w, std::string* field) {
+  auto shown = std::make_shared<Shown>();
+  auto crlf = std::make_shared<bool>(false);
+  QObject::connect(w, &QPlainTextEdit::textChanged, w, [shown] { shown->dirty = true; });
+  entries_.push_back({[this, w, field, shown, crlf] {
+                        if (!shown->dirty)
+                          return;
+                        shown->dirty = false;
+                        shown->bytes = Take(EditorText(w, *crlf), TextKind::Page);
+                        *field = shown->bytes;
+                      },
+                      [this, w, field, shown, crlf] {
+                        if (shown->generation == generation_ && shown->bytes == *field)
+                          return;
+                        const QSignalBlocker block(w);
+                        shown->bytes = *field;
+                        shown->generation = generation_;
+                        shown->dirty = false;
+                        *crlf = UsesCrLf(*field);
+                        w->setPlainText(Show(*field, TextKind::Page));
+                        w->setProperty(kTextVersion, w->property(kTextVersion).toInt() + 1);
+                      }});
+}
+
+void FormBinding::Selection(QPlainTextEdit* w, const std::string* text, int32_t* start,
+                            int32_t* length) {
+  struct Sel {
+    int32_t start = 0, length = 0;
+    int textVersion = -1;
+    bool dirty = false;
+  };
+  auto sel = std::make_shared<Sel>();
+  QObject::connect(w, &QPlainTextEdit::cursorPositionChanged, w, [sel] { sel->dirty = true; });
+  QObject::connect(w, &QPlainTextEdit::selectionChanged, w, [sel] { sel->dirty = true; });
+  entries_.push_back({[this, w, text, start, length, sel] {
+                        if (!sel->dirty)
+                          return;
+                        sel->dirty = false;
+                        const QTextCursor c = w->textCursor();
+                        const auto a = EditorToByte(*text, codec_, c.selectionStart());
+                        const auto b = EditorToByte(*text, codec_, c.selectionEnd());
+                        *start = sel->start = static_cast<int32_t>(a);
+                        *length = sel->length = static_cast<int32_t>(b - a);
+                      },
+                      [this, w, text, start, length, sel] {
+                        // A text shown afresh puts the caret at the top; the Form follows the
+                        // editor then.
+                        const int version = w->property(kTextVersion).toInt();
+                        if (version != sel->textVersion) {
+                          sel->textVersion = version;
+                          *start = sel->start = 0;
+                          *length = sel->length = 0;
+                          return;
+                        }
+                        if (*start == sel->start && *length == sel->length)
+                          return;
+                        const QSignalBlocker block(w);
+                        sel->start = *start;
+                        sel->length = *length;
+                        const auto first = static_cast<std::size_t>(std::max(*start, 0));
+                        const auto last = first + static_cast<std::size_t>(std::max(*length, 0));
+                        QTextCursor c(w->document());
+                        c.setPosition(ByteToEditor(*text, codec_, first));
+                        c.setPosition(ByteToEditor(*text, codec_, last), QTextCursor::KeepAnchor);
+                        w->setTextCursor(c);
+                        w->ensureCursorVisible();
+                      }});
+}
+
+void FormBinding::CheckBox(QCheckBox* w, int16_t* field) {
+  auto shown = std::make_shared<int16_t>(-1);
+  entries_.push_back({[w, field, shown] {
+                        const int16_t value = w->isChecked() ? 1 : 0;
+                        if (value != *shown)
+                          *field = *shown = value;
+                      },
+                      [w, field, shown] {
+                        if (*field == *shown)
+                          return;
+                        const QSignalBlocker block(w);
+                        *shown = *field;
+                        w->setChecked(*field != 0);
+                      }});
+}
+
+void FormBinding::ComboBox(QComboBox* w, app::DropDown* field) {
+  struct State {
+    std::vector<std::string> list;
+    Shown text;
+  };
+  auto st = std::make_shared<State>();
+  entries_.push_back({[this, w, field, st] {
+                        if (w->currentText() == st->text.text)
+                          return;
+                        st->text.text = w->currentText();
+                        st->text.bytes = Take(st->text.text, TextKind::Page);
+                        field->Text = st->text.bytes;
+                      },
+                      [this, w, field, st] {
+                        const bool fresh = st->text.generation != generation_;
+                        if (!fresh && st->list == field->List && st->text.bytes == field->Text)
+                          return;
+                        const QSignalBlocker block(w);
+                        if (fresh || st->list != field->List) {
+                          st->list = field->List;
+                          QStringList items;
+                          for (const auto& item : field->List)
+                            items << Show(item, TextKind::Page);
+                          w->clear();
+                          w->addItems(items);
+                        }
+                        st->text.bytes = field->Text;
+                        st->text.text = Show(field->Text, TextKind::Page);
+                        st->text.generation = generation_;
+                        const int index = w->findText(st->text.text);
+                        if (index >= 0)
+                          w->setCurrentIndex(index);
+                        w->setEditText(st->text.text);
+                      }});
+}
+
+void FormBinding::Label(QLabel* w, const std::string* field) {
+  auto shown = std::make_shared<Shown>();
+  entries_.push_back({[] {},
+                      [this, w, field, shown] {
+                        if (shown->generation == generation_ && shown->bytes == *field)
+                          return;
+                        shown->bytes = *field;
+                        shown->generation = generation_;
+                        w->setText(Show(*field, TextKind::Page));
+                      }});
+}
+
+void FormBinding::ToolTip(QWidget* w, const std::string* field) {
+  auto shown = std::make_shared<Shown>();
+  entries_.push_back({[] {},
+                      [this, w, field, shown] {
+                        if (shown->generation == generation_ && shown->bytes == *field)
+                          return;
+                        shown->bytes = *field;
+                        shown->generation = generation_;
+                        w->setToolTip(Show(*field, TextKind::Page));
+                      }});
+}
+
+void FormBinding::Menu(QAction* a, const app::MenuEntry* entry) {
+  entries_.push_back({[] {},
+                      [a, entry] {
+                        if (!entry->Caption.empty())
+                          a->setText(MenuText(DecodePath(entry->Caption)));
+                        a->setVisible(entry->Visible);
+                      }});
+}
+
+void FormBinding::WindowTitle(QWidget* w, const std::string* field) {
+  entries_.push_back({[] {},
+                      [w, field] {
+                        const QString title = DecodePath(*field);
+                        if (w->windowTitle() != title)
+                          w->setWindowTitle(title);
+                      }});
+}
+
+void FormBinding::Tabs(QTabWidget* w, int16_t* field) {
+  auto shown = std::make_shared<int16_t>(-1);
+  entries_.push_back({[w, field, shown] {
+                        const auto index = static_cast<int16_t>(w->currentIndex());
+                        if (index != *shown)
+                          *field = *shown = index;
+                      },
+                      [w, field, shown] {
+                        if (*field == *shown)
+                          return;
+                        const QSignalBlocker block(w);
+                        *shown = *field;
+                        w->setCurrentIndex(*field);
+                      }});
+}
+
+void FormBinding::Pull() {
+  for (auto& e : entries_)
+    e.pull();
+  // Text the user typed keeps the codec it was typed in, whatever its bytes now look like.
+  if (codecSource_ && *codecSource_ != codecSeen_)
+    codecSeen_ = *codecSource_;
+}
+
+void FormBinding::Push() {
+  if (codecSource_ && *codecSource_ != codecSeen_) {
+    codecSeen_ = *codecSource_;
+    const Codec codec = CodecFor(codecSeen_);
+    if (codec != codec_) {
+      codec_ = codec;
+      ++generation_;
+    }
+  }
+  for (auto& e : entries_)
+    e.push();
+}
+
+}  // namespace zentrel::ui

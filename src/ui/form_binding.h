@@ -1,0 +1,78 @@
+#pragma once
+// The one place where the widgets and the Form model meet. Each bound widget remembers what it
+// was last shown; Pull copies into the Form only what the user changed since, Push writes back
+// only what the core changed (signals blocked), so large texts are copied only when they moved.
+
+#include <QString>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "app/form_model.h"
+#include "ui/text_codec.h"
+
+class QAction;
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QTabWidget;
+class QWidget;
+
+namespace zentrel {
+struct AppState;
+}
+
+namespace zentrel::ui {
+
+// How a text is turned into characters: with the page's codec or as a file path.
+enum class TextKind { Page, Path };
+
+class FormBinding {
+ public:
+  using Setter = std::function<void(AppState&, const std::string&)>;
+
+  explicit FormBinding(AppState& s);
+
+  // The page text whose bytes decide the codec of every page text.
+  void CodecSource(const std::string* pageText) { codecSource_ = pageText; }
+  // Called after the user changes a control that has a change handler.
+  void OnUserChange(std::function<void()> callback) { onUserChange_ = std::move(callback); }
+
+  void LineEdit(QLineEdit* w, std::string* field, Setter setter = {},
+                TextKind kind = TextKind::Page);
+  void TextArea(QPlainTextEdit* w, std::string* field);
+  void Selection(QPlainTextEdit* w, const std::string* text, int32_t* start, int32_t* length);
+  void CheckBox(QCheckBox* w, int16_t* field);
+  void ComboBox(QComboBox* w, app::DropDown* field);
+  void Label(QLabel* w, const std::string* field);
+  void ToolTip(QWidget* w, const std::string* field);
+  void Menu(QAction* a, const app::MenuEntry* entry);
+  void WindowTitle(QWidget* w, const std::string* field);
+  void Tabs(QTabWidget* w, int16_t* field);
+
+  void Pull();
+  void Push();
+  Codec PageCodec() const { return codec_; }
+
+ private:
+  struct Entry {
+    std::function<void()> pull;
+    std::function<void()> push;
+  };
+  QString Show(const std::string& bytes, TextKind kind) const;
+  std::string Take(const QString& text, TextKind kind) const;
+  void Changed();
+
+  AppState& s_;
+  std::vector<Entry> entries_;
+  const std::string* codecSource_ = nullptr;
+  std::string codecSeen_;
+  Codec codec_ = Codec::Utf8;
+  int generation_ = 0;  // raised when the codec changes, so every text is shown again
+  std::function<void()> onUserChange_;
+};
+
+}  // namespace zentrel::ui

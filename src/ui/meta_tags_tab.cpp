@@ -1,0 +1,107 @@
+#include "ui/meta_tags_tab.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStyle>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <array>
+
+#include "app/app_state.h"
+#include "metatags/meta_tag_panel.h"
+
+namespace zentrel::ui {
+
+namespace {
+
+constexpr std::array<const char*, app::kMetaTagFieldCount> kLabels = {
+    "Page Title",    "Description",  "Abstract",  "Keywords", "Generator",
+    "Program ID",    "Author",       "Copyright", "Rating",   "Robots",
+    "Revisit After", "Distribution", "Expires"};
+
+// Where the choice lists stand: beside the field they write.
+constexpr int kRating = 8, kRobots = 9, kRevisitAfter = 10, kDistribution = 11, kExpires = 12;
+
+}  // namespace
+
+MetaTagsTab::MetaTagsTab(View& v, QWidget* parent) : QWidget(parent) {
+  app::FormModel& f = v.s.Form;
+  auto* layout = new QHBoxLayout(this);
+
+  auto* grid = new QGridLayout;
+  grid->setColumnStretch(2, 1);
+  for (int i = 0; i < app::kMetaTagFieldCount; ++i) {
+    const auto index = static_cast<std::size_t>(i);
+    const std::string suffix = "_" + std::to_string(i);
+    auto* mark = MakeCheck(v, this, ("MetaTag_Selection_CheckBox" + suffix).c_str(), "",
+                           &f.MetaTag_Selection_CheckBox[index], false);
+    mark->setToolTip(QStringLiteral("Mark this field"));
+    grid->addWidget(mark, i, 0);
+    auto* label = MakeLabel(this, QString::fromLatin1(kLabels[index]));
+    grid->addWidget(label, i, 1);
+    auto* field = MakeLineEdit(v, this, "MetaTag_TextBox" + suffix, &f.MetaTag_TextBox[index],
+                               [i](AppState& s, const std::string& text) {
+                                 metatags::Set_MetaTag_TextBox(s, static_cast<int16_t>(i), text);
+                               });
+    v.bind.ToolTip(field, &f.MetaTag_TextBox_ToolTip[index]);
+    label->setBuddy(field);
+    grid->addWidget(field, i, 2);
+  }
+  grid->addWidget(
+      MakeCombo(v, this, "PageMetaTags_Rating_DropDown", &f.PageMetaTags_Rating_DropDown), kRating,
+      3);
+  grid->addWidget(
+      MakeCombo(v, this, "PageMetaTags_Robots_DropDown", &f.PageMetaTags_Robots_DropDown), kRobots,
+      3);
+  grid->addWidget(MakeCombo(v, this, "PageMetaTags_RevisitAfter_DropDown",
+                            &f.PageMetaTags_RevisitAfter_DropDown),
+                  kRevisitAfter, 3);
+  grid->addWidget(MakeCombo(v, this, "PageMetaTags_Distribution_DropDown",
+                            &f.PageMetaTags_Distribution_DropDown),
+                  kDistribution, 3);
+  // The date parts are read by "Set Date"; picking one runs nothing.
+  auto* date = new QHBoxLayout;
+  date->addWidget(
+      MakeCombo(v, this, "PageMetaTags_Expires_Day", &f.PageMetaTags_Expires_Day, false));
+  date->addWidget(
+      MakeCombo(v, this, "PageMetaTags_Expires_Month", &f.PageMetaTags_Expires_Month, false));
+  date->addWidget(
+      MakeCombo(v, this, "PageMetaTags_Expires_Year", &f.PageMetaTags_Expires_Year, false));
+  date->addWidget(MakeButton(v, this, "PageMetaTags_Expires_SetDate", "Set Date"));
+  grid->addLayout(date, kExpires, 3);
+  grid->setRowStretch(app::kMetaTagFieldCount, 1);
+  layout->addLayout(grid, 1);
+
+  auto* buttons = new QVBoxLayout;
+  auto* rebuild = new QHBoxLayout;
+  rebuild->addWidget(MakeButton(v, this, "MetaTagFunctions_ReThreadDocument", "Rebuild Page"), 1);
+  auto* save = new QToolButton(this);
+  save->setObjectName(QStringLiteral("Picture2"));
+  save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
+  save->setToolTip(QStringLiteral("Save the page over the loaded file"));
+  connect(save, &QToolButton::clicked, save, [&v] { v.run("Picture2"); });
+  rebuild->addWidget(save);
+  buttons->addLayout(rebuild);
+  buttons->addSpacing(12);
+  for (auto [name, caption] : std::array<std::pair<const char*, const char*>, 8>{{
+           {"MetaTagFunctions_MArk_ALL_Checkboxes", "Mark ALL"},
+           {"MetaTagFunctions_UnMArk_ALL_Checkboxes", "UnMark ALL"},
+           {"MetaTagFunctions_ClearALL", "Clear ALL"},
+           {"MetaTagFunctions_ClearMarked", "Clear Marked"},
+           {"MetaTagFunctions_CopyMarkedToClip", "Copy Marked To Clip"},
+           {"MetaTagFunctions_PasteClipToMarked", "Paste Clip To Marked"},
+           {"MetaTagFunctions_SaveMarked", "Save Marked"},
+           {"MetaTagFunctions_LoadMarked", "Load  Marked"},
+       }}) {
+    buttons->addWidget(MakeButton(v, this, name, caption));
+  }
+  buttons->addStretch();
+  layout->addLayout(buttons);
+}
+
+}  // namespace zentrel::ui

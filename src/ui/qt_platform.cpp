@@ -1,0 +1,58 @@
+#include "ui/qt_platform.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QEventLoop>
+#include <QMessageBox>
+#include <QUrl>
+
+#include "app/startup.h"
+#include "ui/text_codec.h"
+
+namespace zentrel::ui {
+
+bool QtPlatform::ShowOpen(app::FileDialog& dialog) {
+  return cCommonDialog(owner_).ShowOpen(dialog);
+}
+
+bool QtPlatform::ShowSave(app::FileDialog& dialog) {
+  return cCommonDialog(owner_).ShowSave(dialog);
+}
+
+bool QtPlatform::AskYesNo(const std::string& title, const std::string& text) {
+  QMessageBox box(QMessageBox::Question, QString::fromLocal8Bit(title),
+                  QString::fromLocal8Bit(text), QMessageBox::Yes | QMessageBox::No, owner_);
+  box.setDefaultButton(QMessageBox::Yes);
+  return box.exec() == QMessageBox::Yes;
+}
+
+void QtPlatform::ShowMessage(const std::string& text) {
+  QMessageBox box(QMessageBox::Information, QString::fromLatin1(app::kProgramName),
+                  QString::fromLocal8Bit(text), QMessageBox::Ok, owner_);
+  box.exec();
+}
+
+void QtPlatform::BeginBusy() {
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+void QtPlatform::EndBusy() {
+  QApplication::restoreOverrideCursor();
+}
+
+void QtPlatform::DoEvents() {
+  // The window repaints during long work; clicks and keys wait until the command is done, so
+  // no second command starts inside the first.
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void QtPlatform::OpenDocument(const std::string& path) {
+  QDesktopServices::openUrl(QUrl::fromLocalFile(DecodePath(path)));
+}
+
+std::string QtPlatform::ExecutableFolder() {
+  return EncodePath(QCoreApplication::applicationDirPath());
+}
+
+}  // namespace zentrel::ui

@@ -1,0 +1,30 @@
+#pragma once
+// The Platform of the desktop program: Qt's dialogs, message boxes, busy pointer and events.
+
+#include "app/platform.h"
+#include "ui/common_dialog.h"
+
+class QWidget;
+
+namespace zentrel::ui {
+
+class QtPlatform : public app::Platform {
+ public:
+  // Dialogs and message boxes are owned by this window (set once the window exists).
+  void SetOwner(QWidget* owner) { owner_ = owner; }
+
+  bool ShowOpen(app::FileDialog& dialog) override;
+  bool ShowSave(app::FileDialog& dialog) override;
+  bool AskYesNo(const std::string& title, const std::string& text) override;
+  void ShowMessage(const std::string& text) override;
+  void BeginBusy() override;
+  void EndBusy() override;
+  void DoEvents() override;
+  void OpenDocument(const std::string& path) override;
+  std::string ExecutableFolder() override;
+
+ private:
+  QWidget* owner_ = nullptr;
+};
+
+}  // namespace zentrel::ui
