@@ -71,7 +71,8 @@ bool cCommonDialog::Show(app::FileDialog& dialog, bool save) {
   box.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   if (!names.isEmpty())
     box.setNameFilters(names);
-  const int index = std::clamp<int>(dialog.FilterIndex, 1, std::max(1, static_cast<int>(names.size())));
+  const int index =
+      std::clamp<int>(dialog.FilterIndex, 1, std::max(1, static_cast<int>(names.size())));
   if (!names.isEmpty())
     box.selectNameFilter(names[index - 1]);
   auto suffixFor = [&](int filterIndex) {

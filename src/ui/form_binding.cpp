@@ -285,7 +285,7 @@ void FormBinding::Pull() {
 void FormBinding::Push() {
   if (codecSource_ && *codecSource_ != codecSeen_) {
     codecSeen_ = *codecSource_;
-    const Codec codec = CodecFor(codecSeen_);
+    const Codec codec = codec::DetectCodec(codecSeen_);
     if (codec != codec_) {
       codec_ = codec;
       ++generation_;

@@ -1,19 +1,17 @@
 #pragma once
-// The view's edge between the core's byte strings and Qt's text: a page shows as UTF-8 when its
-// bytes are valid UTF-8, otherwise as Windows-1252 with every byte mapped to one character, so
-// that every byte comes back unchanged. Paths use the file system's own encoding.
+// The view's edge between the core's byte strings and Qt's text, in the page's codec (the
+// core's codec: UTF-8 when the page is valid UTF-8, otherwise Windows-1252 with every byte
+// round-tripping). Paths use the file system's own encoding.
 
 #include <QString>
 #include <string>
 #include <string_view>
 
+#include "base/codec.h"
+
 namespace zentrel::ui {
 
-enum class Codec { Utf8, Windows1252 };
-
-bool IsValidUtf8(std::string_view bytes);
-// The codec a page is shown with.
-Codec CodecFor(std::string_view pageBytes);
+using codec::Codec;
 
 QString Decode(std::string_view bytes, Codec codec);
 // Characters that Windows-1252 cannot hold become "?".

@@ -1,0 +1,170 @@
+// The view's edge: the page codec on QString, editor positions, dialog filters, and the
+// binding table's rule that only what the user changed goes back into the Form.
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextCursor>
+
+#include "app/app_state.h"
+#include "fake_platform.h"
+#include "ui/common_dialog.h"
+#include "ui/form_binding.h"
+#include "ui/text_codec.h"
+#include "ui_test_support.h"
+
+namespace zentrel::ui {
+
+namespace {
+
+std::string AllBytes() {
+  std::string bytes;
+  for (int b = 0; b < 256; ++b)
+    bytes.push_back(static_cast<char>(b));
+  return bytes;
+}
+
+}  // namespace
+
+TEST(TextCodec, EveryByteOfAWindows1252PageRoundTrips) {
+  const std::string bytes = AllBytes();
+  const QString shown = Decode(bytes, Codec::Windows1252);
+  EXPECT_EQ(shown.size(), 256);
+  EXPECT_EQ(shown.at(0xE9), QChar(0x00E9));
+  EXPECT_EQ(shown.at(0x80), QChar(0x20AC));
+  EXPECT_EQ(shown.at(0x8D), QChar(0x008D));
+  EXPECT_EQ(Encode(shown, Codec::Windows1252), bytes);
+  // A character the code page cannot hold is written as "?".
+  EXPECT_EQ(Encode(QString::fromUtf8("a\xE2\x86\x92z"), Codec::Windows1252), "a?z");
+  EXPECT_EQ(Encode(QString::fromUtf8("caf\xC3\xA9"), Codec::Utf8), "caf\xC3\xA9");
+}
+
+TEST(TextCodec, EditorPositionsCountLineBreaksAndWideCharacters) {
+  // "é" is two bytes, the CR LF one break, the emoji two units in the editor.
+  const std::string page = "a\xC3\xA9\r\nb\xF0\x9F\x98\x80x";
+  EXPECT_EQ(ByteToEditor(page, Codec::Utf8, 3), 2);
+  EXPECT_EQ(ByteToEditor(page, Codec::Utf8, 5), 3);
+  EXPECT_EQ(ByteToEditor(page, Codec::Utf8, 10), 6);
+  EXPECT_EQ(EditorToByte(page, Codec::Utf8, 3), 5u);
+  EXPECT_EQ(EditorToByte(page, Codec::Utf8, 6), 10u);
+  EXPECT_EQ(EditorToByte(page, Codec::Utf8, 99), page.size());
+  // In Windows-1252 every byte is one character.
+  EXPECT_EQ(ByteToEditor("\xE9\xE9\r\n!", Codec::Windows1252, 5), 4);
+}
+
+TEST(cCommonDialog, FilterTextBecomesQtNameFilters) {
+  EXPECT_EQ(cCommonDialog::NameFilters("(*.html)|*.html|(*.htm)|*.htm|(*.txt)|*.txt|(*.*)|*.*|"),
+            (QStringList{"(*.html)", "(*.htm)", "(*.txt)", "(*.*)"}));
+  EXPECT_EQ(cCommonDialog::NameFilters("Tag lists|*.tag|Pages|*.htm;*.html|"),
+            (QStringList{"Tag lists (*.tag)", "Pages (*.htm *.html)"}));
+  EXPECT_EQ(cCommonDialog::PatternExtension("(*.tag)|*.tag|(*.*)|*.*|", 1), ".tag");
+  EXPECT_EQ(cCommonDialog::PatternExtension("(*.tag)|*.tag|(*.*)|*.*|", 2), "");
+  EXPECT_EQ(cCommonDialog::PatternExtension("(*.tag)|*.tag|", 3), "");
+}
+
+class FormBindingTest : public ::testing::Test {
+ protected:
+  FormBindingTest() { zentrel::testing::App(); }
+  zentrel::testing::FakePlatform platform;
+  AppState s{platform};
+  FormBinding bind{s};
+};
+
+TEST_F(FormBindingTest, EditedPageSourceKeepsItsBytesAndLineEnds) {
+  // A Windows-1252 page with CR LF line ends and a no-break space.
+  s.Form.Html_Document_Editor = "<p>caf\xE9!\xA0\x81</p>\r\n<p>two</p>\r\n";
+  QPlainTextEdit editor;
+  bind.CodecSource(&s.Form.Html_Document_Editor);
+  bind.TextArea(&editor, &s.Form.Html_Document_Editor);
+  bind.Push();
+  EXPECT_EQ(bind.PageCodec(), Codec::Windows1252);
+  EXPECT_EQ(
+      editor.toPlainText(),
+      QString::fromUtf8("<p>caf\xC3\xA9! \xC2\x81</p>\n<p>two</p>\n").replace(' ', QChar(0xA0)));
+
+  QTextCursor c(editor.document());
+  c.movePosition(QTextCursor::End);
+  c.insertText(QStringLiteral("<p>\u00FCber</p>"));
+  bind.Pull();
+  EXPECT_EQ(s.Form.Html_Document_Editor,
+            "<p>caf\xE9!\xA0\x81</p>\r\n<p>two</p>\r\n<p>\xFC"
+            "ber</p>");
+}
+
+TEST_F(FormBindingTest, OnlyWhatTheUserChangedGoesBackIntoTheForm) {
+  s.Form.Html_Document_Editor = "plain ascii page";
+  s.Form.MetaTag_TextBox[0] = "bad \xFF byte";  // not UTF-8: shown with a replacement mark
+  QLineEdit field;
+  QCheckBox mark;
+  std::vector<std::string> setterCalls;
+  bind.CodecSource(&s.Form.Html_Document_Editor);
+  bind.LineEdit(&field, &s.Form.MetaTag_TextBox[0], [&](AppState& st, const std::string& text) {
+    setterCalls.push_back(text);
+    st.Form.MetaTag_TextBox[0] = text;
+  });
+  bind.CheckBox(&mark, &s.Form.MetaTag_Selection_CheckBox[0]);
+  int userChanges = 0;
+  bind.OnUserChange([&] {
+    ++userChanges;
+    bind.Pull();
+    bind.Push();
+  });
+  bind.Push();
+  bind.Pull();
+  EXPECT_EQ(s.Form.MetaTag_TextBox[0], "bad \xFF byte");
+  EXPECT_TRUE(setterCalls.empty());
+
+  // Typing runs the field's setter at once; a tick waits for the next pull.
+  field.clear();
+  zentrel::testing::Type(&field, QStringLiteral("\u00E9t\u00E9"));
+  EXPECT_EQ(userChanges, 3);
+  ASSERT_FALSE(setterCalls.empty());
+  EXPECT_EQ(setterCalls.back(), "\xC3\xA9t\xC3\xA9");
+  mark.setChecked(true);
+  EXPECT_EQ(s.Form.MetaTag_Selection_CheckBox[0], 0);
+  bind.Pull();
+  EXPECT_EQ(s.Form.MetaTag_Selection_CheckBox[0], 1);
+
+  // What the core writes is shown, without running the setter again.
+  const auto calls = setterCalls.size();
+  s.Form.MetaTag_TextBox[0] = "from the core";
+  s.Form.MetaTag_Selection_CheckBox[0] = 0;
+  bind.Push();
+  EXPECT_EQ(field.text(), QStringLiteral("from the core"));
+  EXPECT_FALSE(mark.isChecked());
+  EXPECT_EQ(setterCalls.size(), calls);
+}
+
+TEST_F(FormBindingTest, SelectionFollowsBytePositionsAndResetsOnNewText) {
+  s.Form.Html_Document_Editor = "<title>Caf\xC3\xA9</title>\r\n<p>caf\xC3\xA9 TITLE</p>";
+  QPlainTextEdit editor;
+  bind.CodecSource(&s.Form.Html_Document_Editor);
+  bind.TextArea(&editor, &s.Form.Html_Document_Editor);
+  bind.Selection(&editor, &s.Form.Html_Document_Editor, &s.Form.Html_Document_Editor_SelStart,
+                 &s.Form.Html_Document_Editor_SelLength);
+  bind.Push();
+  const std::string& page = s.Form.Html_Document_Editor;
+  s.Form.Html_Document_Editor_SelStart = static_cast<int32_t>(page.find("TITLE"));
+  s.Form.Html_Document_Editor_SelLength = 5;
+  bind.Push();
+  EXPECT_EQ(editor.textCursor().selectedText(), QStringLiteral("TITLE"));
+
+  // The user moves the caret: the Form follows in bytes.
+  QTextCursor c = editor.textCursor();
+  c.setPosition(static_cast<int>(editor.toPlainText().indexOf(QStringLiteral("caf\u00E9 "))));
+  c.setPosition(c.position() + 4, QTextCursor::KeepAnchor);
+  editor.setTextCursor(c);
+  bind.Pull();
+  EXPECT_EQ(s.Form.Html_Document_Editor_SelStart, static_cast<int32_t>(page.find("caf\xC3\xA9 ")));
+  EXPECT_EQ(s.Form.Html_Document_Editor_SelLength, 5);
+
+  s.Form.Html_Document_Editor = "another page";
+  bind.Push();
+  EXPECT_EQ(s.Form.Html_Document_Editor_SelStart, 0);
+  EXPECT_EQ(s.Form.Html_Document_Editor_SelLength, 0);
+  EXPECT_FALSE(editor.textCursor().hasSelection());
+}
+
+}  // namespace zentrel::ui
