@@ -80,9 +80,8 @@ TEST_F(FormBindingTest, EditedPageSourceKeepsItsBytesAndLineEnds) {
   bind.TextArea(&editor, &s.Form.Html_Document_Editor);
   bind.Push();
   EXPECT_EQ(bind.PageCodec(), Codec::Windows1252);
-  EXPECT_EQ(
-      editor.toPlainText(),
-      QString::fromUtf8("<p>caf\xC3\xA9! \xC2\x81</p>\n<p>two</p>\n").replace(' ', QChar(0xA0)));
+  // toPlainText shows the no-break space as a space; the pull below must still give 0xA0.
+  EXPECT_EQ(editor.toPlainText(), QString::fromUtf8("<p>caf\xC3\xA9! \xC2\x81</p>\n<p>two</p>\n"));
 
   QTextCursor c(editor.document());
   c.movePosition(QTextCursor::End);
