@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QIcon>
 
 #include "ui/about_box.h"
 #include "ui/main_window.h"
@@ -7,6 +8,8 @@
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Zentrel"));
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/zentrel.png")));
+  QApplication::setDesktopFileName(QStringLiteral("zentrel"));
   zentrel::ui::QtPlatform platform;
   zentrel::ui::MainWindow window(platform);
   platform.SetOwner(&window);

@@ -10,6 +10,7 @@
 #include <QDialog>
 #include <QFontInfo>
 #include <QGroupBox>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -342,6 +343,7 @@ TEST_F(MainWindowTest, HelpOpensTheDocsAndQuitEndsTheProgram) {
   Trigger("mnu_Help_Docs");
   ASSERT_EQ(platform.openedDocuments.size(), 1u);
   EXPECT_EQ(platform.openedDocuments[0], folder.path().string() + "/docs/index.htm");
+  EXPECT_FALSE(QIcon(QStringLiteral(":/icons/zentrel.png")).isNull());
   Trigger("mnu_Help_About");
   EXPECT_TRUE(W<QDialog>("frmAbout")->isVisible());
 
