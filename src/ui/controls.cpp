@@ -31,7 +31,7 @@ QCheckBox* MakeCheck(View& v, QWidget* parent, const char* name, const char* cap
   return w;
 }
 
-QComboBox* MakeCombo(View& v, QWidget* parent, const char* name, app::DropDown* field,
+QComboBox* MakeCombo(View& v, QWidget* parent, const char* name, app::DropDown* field, int chars,
                      bool dispatch) {
   auto* w = new QComboBox(parent);
   w->setObjectName(QString::fromLatin1(name));
@@ -40,7 +40,9 @@ QComboBox* MakeCombo(View& v, QWidget* parent, const char* name, app::DropDown* 
   w->setEditable(true);
   w->setInsertPolicy(QComboBox::NoInsert);
   w->setMaxVisibleItems(16);
-  w->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  w->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  w->setMinimumContentsLength(chars);
+  w->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   v.bind.ComboBox(w, field);
   if (dispatch)
     QObject::connect(w, &QComboBox::activated, w, [&v, n = std::string(name)] { v.run(n); });

@@ -24,8 +24,9 @@ constexpr std::array<const char*, app::kMetaTagFieldCount> kLabels = {
     "Program ID",    "Author",       "Copyright", "Rating",   "Robots",
     "Revisit After", "Distribution", "Expires"};
 
-// Where the choice lists stand: beside the field they write.
-constexpr int kRating = 8, kRobots = 9, kRevisitAfter = 10, kDistribution = 11, kExpires = 12;
+// Where the choice lists stand: beside the field they write; the expiry date goes below.
+constexpr int kChoiceWidth = 16;  // "noindex,nofollow"
+constexpr int kRating = 8, kRobots = 9, kRevisitAfter = 10, kDistribution = 11;
 
 }  // namespace
 
@@ -52,29 +53,38 @@ MetaTagsTab::MetaTagsTab(View& v, QWidget* parent) : QWidget(parent) {
     label->setBuddy(field);
     grid->addWidget(field, i, 2);
   }
-  grid->addWidget(
-      MakeCombo(v, this, "PageMetaTags_Rating_DropDown", &f.PageMetaTags_Rating_DropDown), kRating,
-      3);
-  grid->addWidget(
-      MakeCombo(v, this, "PageMetaTags_Robots_DropDown", &f.PageMetaTags_Robots_DropDown), kRobots,
-      3);
+  grid->addWidget(MakeCombo(v, this, "PageMetaTags_Rating_DropDown",
+                            &f.PageMetaTags_Rating_DropDown, kChoiceWidth),
+                  kRating, 3, Qt::AlignLeft);
+  grid->addWidget(MakeCombo(v, this, "PageMetaTags_Robots_DropDown",
+                            &f.PageMetaTags_Robots_DropDown, kChoiceWidth),
+                  kRobots, 3, Qt::AlignLeft);
   grid->addWidget(MakeCombo(v, this, "PageMetaTags_RevisitAfter_DropDown",
-                            &f.PageMetaTags_RevisitAfter_DropDown),
-                  kRevisitAfter, 3);
+                            &f.PageMetaTags_RevisitAfter_DropDown, kChoiceWidth),
+                  kRevisitAfter, 3, Qt::AlignLeft);
   grid->addWidget(MakeCombo(v, this, "PageMetaTags_Distribution_DropDown",
-                            &f.PageMetaTags_Distribution_DropDown),
-                  kDistribution, 3);
+                            &f.PageMetaTags_Distribution_DropDown, kChoiceWidth),
+                  kDistribution, 3, Qt::AlignLeft);
   // The date parts are read by "Set Date"; picking one runs nothing.
   auto* date = new QHBoxLayout;
   date->addWidget(
-      MakeCombo(v, this, "PageMetaTags_Expires_Day", &f.PageMetaTags_Expires_Day, false));
+      MakeCombo(v, this, "PageMetaTags_Expires_Day", &f.PageMetaTags_Expires_Day, 3, false));
   date->addWidget(
-      MakeCombo(v, this, "PageMetaTags_Expires_Month", &f.PageMetaTags_Expires_Month, false));
+      MakeCombo(v, this, "PageMetaTags_Expires_Month", &f.PageMetaTags_Expires_Month, 9, false));
   date->addWidget(
-      MakeCombo(v, this, "PageMetaTags_Expires_Year", &f.PageMetaTags_Expires_Year, false));
+      MakeCombo(v, this, "PageMetaTags_Expires_Year", &f.PageMetaTags_Expires_Year, 5, false));
   date->addWidget(MakeButton(v, this, "PageMetaTags_Expires_SetDate", "Set Date"));
-  grid->addLayout(date, kExpires, 3);
-  grid->setRowStretch(app::kMetaTagFieldCount, 1);
+  date->addStretch();
+  date->insertWidget(0, MakeLabel(this, QStringLiteral("Expiry date")));
+  grid->addLayout(date, app::kMetaTagFieldCount, 2, 1, 2);
+  auto* hint = MakeLabel(
+      this, QStringLiteral("Tick the boxes on the left to mark fields; the buttons on the "
+                           "right act on all fields or on the marked ones. Rebuild Page "
+                           "writes the fields into the page on \"Edit Page\"; the save "
+                           "button writes it over the loaded file."));
+  hint->setWordWrap(true);
+  grid->addWidget(hint, app::kMetaTagFieldCount + 1, 1, 1, 3);
+  grid->setRowStretch(app::kMetaTagFieldCount + 2, 1);
   layout->addLayout(grid, 1);
 
   auto* buttons = new QVBoxLayout;

@@ -119,7 +119,7 @@ QGroupBox* EnvironmentPrefs(View& v, QWidget* parent) {
   auto* layout = new QHBoxLayout(box);
   layout->addWidget(MakeLabel(box, QStringLiteral("Default File Extension")));
   layout->addWidget(MakeCombo(v, box, "Defaults_Users_FileExtend_DropDown",
-                              &v.s.Form.Defaults_Users_FileExtend_DropDown));
+                              &v.s.Form.Defaults_Users_FileExtend_DropDown, 6));
   layout->addStretch();
   return box;
 }

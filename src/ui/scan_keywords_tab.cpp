@@ -73,7 +73,7 @@ ScanKeywordsTab::ScanKeywordsTab(View& v, QWidget* parent) : QWidget(parent) {
                                &f.KeyWords_MinKeyWordMatches_Option));
   // The analysis reads the threshold when it runs; picking one runs nothing.
   minimum->addWidget(MakeCombo(v, keywordBox, "KeyWords_MinKeyWordMatches_DropDown",
-                               &f.KeyWords_MinKeyWordMatches_DropDown, false));
+                               &f.KeyWords_MinKeyWordMatches_DropDown, 11, false));
   minimum->addStretch();
   k->addLayout(minimum, 2, 1);
   options->addWidget(keywordBox, 2);
