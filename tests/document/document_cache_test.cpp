@@ -16,7 +16,6 @@ using testing::TempFolder;
 void Put(AppState& s, const std::string& page) {
   s.DocumentBytes.assign(page.begin(), page.end());
   s.DocumentBytes.push_back(0);
-  s.DocumentText = page;
   s.DocumentLength = static_cast<int32_t>(page.size());
 }
 
@@ -24,51 +23,36 @@ std::string Bytes(const AppState& s) {
   return std::string(s.DocumentBytes.begin(), s.DocumentBytes.end());
 }
 
-TEST(DO_LOAD_File_TO_CACHE, KeepsBytesAndTextIdenticalWithOneZeroPastTheEnd) {
+TEST(DO_LOAD_File_TO_CACHE, BytesAndTextAreIdenticalWithOneZeroPastTheEnd) {
   FakePlatform platform;
   AppState s(platform);
-  const std::string page = testing::ReadTestData("decode_page.html");
-  EXPECT_EQ(DO_LOAD_File_TO_CACHE(s, testing::TestDataPath("decode_page.html")),
-            static_cast<int32_t>(page.size()));
-  EXPECT_EQ(Bytes(s), page + std::string(1, '\0'));
-  EXPECT_EQ(s.DocumentText, page);
-  EXPECT_EQ(s.Form.Html_Document_Editor, page);
-
   TempFolder folder;
   std::string binary;
   for (int i = 0; i < 512; ++i)
     binary.push_back(static_cast<char>(i % 256));
-  testing::WriteFile(folder.File("binary.bin"), binary);
-  EXPECT_EQ(DO_LOAD_File_TO_CACHE(s, folder.File("binary.bin")), 512);
-  EXPECT_EQ(Bytes(s), binary + std::string(1, '\0'));
-  EXPECT_EQ(s.DocumentText, binary);
-
-  testing::WriteFile(folder.File("empty.html"), "");
-  EXPECT_EQ(DO_LOAD_File_TO_CACHE(s, folder.File("empty.html")), 0);
-  EXPECT_EQ(s.DocumentBytes, std::vector<uint8_t>(1, 0));
-  EXPECT_EQ(s.DocumentText, "");
-}
-
-TEST(DO_LOAD_File_TO_CACHE, MissingFileOrFolderThrowsAndLeavesTheCache) {
-  FakePlatform platform;
-  AppState s(platform);
-  Put(s, "<p>kept</p>");
-  TempFolder folder;
-  EXPECT_THROW(DO_LOAD_File_TO_CACHE(s, folder.File("missing.html")), file_io::FileError);
+  testing::WriteFile(folder.File("binary.htm"), binary);
+  testing::WriteFile(folder.File("empty.htm"), "");
+  for (const auto& [path, content] : {std::pair{testing::TestDataPath("decode_page.html"),
+                                                testing::ReadTestData("decode_page.html")},
+                                      std::pair{folder.File("binary.htm"), binary},
+                                      std::pair{folder.File("empty.htm"), std::string()}}) {
+    EXPECT_EQ(DO_LOAD_File_TO_CACHE(s, path), static_cast<int32_t>(content.size()));
+    EXPECT_EQ(Bytes(s), content + '\0');
+    EXPECT_EQ(s.DocumentText, content);
+    EXPECT_EQ(s.Form.Html_Document_Editor, content);
+  }
+  EXPECT_THROW(DO_LOAD_File_TO_CACHE(s, folder.File("missing.htm")), file_io::FileError);
   EXPECT_THROW(DO_LOAD_File_TO_CACHE(s, folder.path().string()), file_io::FileError);
-  EXPECT_EQ(s.DocumentText, "<p>kept</p>");
-  EXPECT_EQ(s.DocumentBytes.size(), 12u);
+  EXPECT_EQ(s.DocumentBytes.size(), 1u);  // a failed read leaves the cache as it was
 }
 
 TEST(Reload_File_From_Memory_TO_Cache, TakesEditedTextWithFourSpareZeros) {
   FakePlatform platform;
   AppState s(platform);
   Put(s, "abc");
-  s.Form.Html_Document_Editor = "abc";
+  s.DocumentText = s.Form.Html_Document_Editor = "abc";
   EXPECT_EQ(Reload_File_From_Memory_TO_Cache(s), 3);
-  EXPECT_EQ(platform.busyCount, 0);
   EXPECT_EQ(s.DocumentBytes.size(), 4u);
-
   s.Form.Html_Document_Editor = "wxyz!";
   EXPECT_EQ(Reload_File_From_Memory_TO_Cache(s), 5);
   EXPECT_EQ(Bytes(s), std::string("wxyz!") + std::string(5, '\0'));
@@ -78,33 +62,26 @@ TEST(Reload_File_From_Memory_TO_Cache, TakesEditedTextWithFourSpareZeros) {
   EXPECT_EQ(platform.busyDepth, 0);
 }
 
-TEST(Html_Clear_Cache_Section, BlanksStretchAndFollowingWhiteSpace) {
+TEST(Html_Clear_Cache_Section, BlanksStretchAndUpTo33BytesOfFollowingWhiteSpace) {
   FakePlatform platform;
   AppState s(platform);
   Put(s, "<meta x>\r\n  <p>");
   Html_Clear_Cache_Section(s, 0, 8);
-  EXPECT_EQ(Bytes(s), std::string(12, '\0') + "<p>" + std::string(1, '\0'));
-
-  // start = end: nothing in the stretch, yet the look-ahead still runs from end.
-  Put(s, "ab \t\nc");
+  EXPECT_EQ(Bytes(s), std::string(12, '\0') + "<p>" + '\0');
+  Put(s, "ab \t\nc");  // start = end: the look-ahead still runs
   Html_Clear_Cache_Section(s, 2, 2);
-  EXPECT_EQ(Bytes(s), std::string("ab") + std::string(3, '\0') + "c" + std::string(1, '\0'));
-
-  // At most 33 bytes of white space after the stretch.
+  EXPECT_EQ(Bytes(s), "ab" + std::string(3, '\0') + "c" + '\0');
   Put(s, "x" + std::string(40, ' ') + "y");
   Html_Clear_Cache_Section(s, 0, 1);
-  EXPECT_EQ(Bytes(s), std::string(34, '\0') + std::string(7, ' ') + "y" + std::string(1, '\0'));
-
-  // White space up to the last byte: the look-ahead stops at DocumentLength.
+  EXPECT_EQ(Bytes(s), std::string(34, '\0') + std::string(7, ' ') + "y" + '\0');
   Put(s, "ab   ");
-  s.DocumentBytes.push_back(' ');  // a byte past the page that must stay
+  s.DocumentBytes.push_back(' ');  // past DocumentLength: never touched
   Html_Clear_Cache_Section(s, 0, 2);
-  EXPECT_EQ(Bytes(s), std::string(5, '\0') + std::string(1, '\0') + " ");
-
-  Put(s, "abc");
-  Html_Clear_Cache_Section(s, -1, 2);
-  Html_Clear_Cache_Section(s, 1, -1);
-  EXPECT_EQ(Bytes(s), std::string("abc") + std::string(1, '\0'));
+  EXPECT_EQ(Bytes(s), std::string(6, '\0') + " ");
+  Put(s, "a b");
+  Html_Clear_Cache_Section(s, -1, 1);
+  Html_Clear_Cache_Section(s, 0, -1);
+  EXPECT_EQ(Bytes(s), std::string("a b") + '\0');
 }
 
 TEST(Find_String_Filecache, IsCaseSensitiveAndMustEndBeforeTheLastByte) {
@@ -114,31 +91,10 @@ TEST(Find_String_Filecache, IsCaseSensitiveAndMustEndBeforeTheLastByte) {
   EXPECT_EQ(Find_String_Filecache(s, "<head", 0), 6);
   EXPECT_EQ(Find_String_Filecache(s, "<Head", 1), -1);
   EXPECT_EQ(Find_String_Filecache(s, "en", 0), 12);
-  EXPECT_EQ(Find_String_Filecache(s, "end", 0), -1);  // would end on the last byte
-  EXPECT_EQ(Find_String_Filecache(s, "", 0), -1);
-}
-
-TEST(Get_String_From_Cache, ReadsRangesAndTheNextWord) {
-  FakePlatform platform;
-  AppState s(platform);
-  Put(s, "  \r\nword next");
-  EXPECT_EQ(Get_String_From_CacheAtPos(s, 4, 7), "word");
+  EXPECT_EQ(Find_String_Filecache(s, "end", 0), -1);
+  EXPECT_EQ(Get_String_From_CacheAtPos(s, 12, 14), "end");
   EXPECT_EQ(Get_String_From_CacheAtPos(s, 5, 4), "");
   EXPECT_THROW(Get_String_From_CacheAtPos(s, 0, 99), RunTimeError);
-  s.ScanPosition = 0;
-  EXPECT_EQ(Get_String_From_Cache(s), "word");
-  EXPECT_EQ(s.ScanPosition, 0);
-  s.ScanPosition = 9;
-  EXPECT_EQ(Get_String_From_Cache(s), "next");
-}
-
-TEST(Strip_Spaces, FoldsLongRunsAndReplacesTheLastCharacter) {
-  FakePlatform platform;
-  AppState s(platform);
-  s.ScanPosition = -5;
-  EXPECT_EQ(Strip_Spaces(s, "a\tb  c \r\n d!"), "a b  c d ");
-  EXPECT_EQ(s.ScanPosition, 10);
-  EXPECT_EQ(Strip_Spaces(s, ""), "");
 }
 
 }  // namespace
