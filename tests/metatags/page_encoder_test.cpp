@@ -37,7 +37,7 @@ TEST(Build_Meta_Tag, OnlyTheFirstAttributeIsTrimmed) {
 TEST(HTML_ENCODE_Document, FullSetOfFieldsInBothOrders) {
   for (int16_t swap : {int16_t{0}, int16_t{1}}) {
     EncoderTestPage page;
-    std::string path = page.Load("encoder_page.html");
+    std::string path = page.Load("encoder_long_page.html");
     page.s.Form.MetaTagEncodePref_SwapContentAndNameOrder_CheckBox = swap;
     MetaTagEncodePref_SwapContentAndNameOrder_CheckBox_Click(page.s);
     Fill_All_Fields(page.s);
@@ -51,7 +51,7 @@ TEST(HTML_ENCODE_Document, FullSetOfFieldsInBothOrders) {
     // The carrier file is gone and the loaded page is still the current document, untouched.
     EXPECT_FALSE(file_io::FileExists(page.TempDataFile()));
     EXPECT_EQ(page.s.CurrentFileName, path);
-    EXPECT_EQ(ReadFile(path), ReadTestData("encoder_page.html"));
+    EXPECT_EQ(ReadFile(path), ReadTestData("encoder_long_page.html"));
     EXPECT_TRUE(page.platform.questions.empty());
   }
 }
@@ -60,7 +60,7 @@ TEST(HTML_ENCODE_Document, FullSetOfFieldsInBothOrders) {
 // before </head>) with them; a field emptied later loses its tag and nothing else.
 TEST(HTML_ENCODE_Document, RebuildingAgainKeepsOneSetOfTags) {
   EncoderTestPage page;
-  page.Load("encoder_page.html");
+  page.Load("encoder_long_page.html");
   Fill_All_Fields(page.s);
   ASSERT_TRUE(HTML_ENCODE_Document(page.s, "Testing", 1));
   ASSERT_TRUE(HTML_ENCODE_Document(page.s, "Testing", 1));
@@ -70,13 +70,13 @@ TEST(HTML_ENCODE_Document, RebuildingAgainKeepsOneSetOfTags) {
   ASSERT_TRUE(HTML_ENCODE_Document(page.s, "Testing", 1));
   EXPECT_EQ(page.Cache(), second);
 
-  Set_MetaTag_TextBox(page.s, 1, "");
-  std::string withoutDescription =
-      text::ReplaceAll(second, "<META content=\"A page, described\" name=\"description\">\r\n", "");
+  Set_MetaTag_TextBox(page.s, 12, "");
+  std::string withoutExpires =
+      text::ReplaceAll(second, "<META content=\"5 March 2003\" name=\"expires\">\r\n", "");
   ASSERT_TRUE(HTML_ENCODE_Document(page.s, "Testing", 1));
-  EXPECT_EQ(page.Cache(), withoutDescription);
+  EXPECT_EQ(page.Cache(), withoutExpires);
   ASSERT_TRUE(HTML_ENCODE_Document(page.s, "Testing", 1));
-  EXPECT_EQ(page.Cache(), withoutDescription);
+  EXPECT_EQ(page.Cache(), withoutExpires);
 }
 
 TEST(HTML_ENCODE_Document, EmptyFieldsAddOnlyTheTitleAndAMissingTitleBlanksNothing) {
@@ -110,7 +110,9 @@ TEST(HTML_ENCODE_Document, BlockGoesInsideHtmlWithoutHeadAndFirstWithNeither) {
             "WARNING: WARNING - Page Is Missing Opening <HEAD> TAG"
             " - IGNORE this ERROR and SAVE ANYWAY ? ");
   const std::string block = "<TITLE>T</TITLE>\r\n<META content=\"me\" name=\"author\">\r\n";
-  EXPECT_EQ(ReadFile(out), "<html>" + block + "\r\n<body>\r\nHi\r\n</body>\r\n</html>\r\n");
+  EXPECT_EQ(ReadFile(out), "<html>" + block +
+                               "\r\n<body>\r\nHi there, this page has a body but no head at "
+                               "all.\r\n</body>\r\n</html>\r\n");
   EXPECT_EQ(page.Cache(), ReadFile(out));
   EXPECT_EQ(page.s.CurrentFileName, path);  // the encoder itself never renames the document
 
@@ -120,7 +122,8 @@ TEST(HTML_ENCODE_Document, BlockGoesInsideHtmlWithoutHeadAndFirstWithNeither) {
   EXPECT_EQ(page.platform.questions.back(),
             "WARNING: WARNING - Page Is Missing Opening <HTML> TAG"
             " - IGNORE this ERROR and REBUILD ANYWAY ? ");
-  EXPECT_EQ(page.Cache(), block + "Hello\r\nWorld\r\n");
+  EXPECT_EQ(page.Cache(),
+            block + "Hello\r\nWorld\r\nJust some plain text without any tags at all.\r\n");
 }
 
 TEST(HTML_ENCODE_Document, NoToTheWarningChangesNothing) {
