@@ -61,8 +61,7 @@ TEST(Tally_Current_Documents_Keyword_Matches, TextScanCountsEverywhereInTheSourc
       "<meta name=\"keywords\" content=\"shoe\"><body>Shoes and a SHOESTRING, banana</body>";
   m.Words({"Shoes", "and", "SHOESTRING", "banana"});
   EXPECT_EQ(m.Body(), (Counts{3, 1, 2}));
-  EXPECT_EQ(m.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox,
-            "Shoes, and, SHOESTRING, banana");
+  EXPECT_EQ(m.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox, "Shoes, and, SHOESTRING, banana");
 
   // Counts add to what the keyword already had; the part-match setting changes nothing.
   m.s.KeywordsForceSameCase = 0;
