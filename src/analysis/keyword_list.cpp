@@ -21,11 +21,6 @@ void ResizeKeywordArrays(AppState& s) {
   s.KeywordFirstChr.resize(size, 0);
 }
 
-void AddSplitParts(AppState& s, int16_t parts) {
-  for (int16_t k = 0; k < parts; ++k)
-    Add_Word_To_KeyWord_buffer(s, At(s.Split_String_List, k));
-}
-
 }  // namespace
 
 void Reset_Keyword_List(AppState& s) {
@@ -59,7 +54,14 @@ void Add_Word_To_KeyWord_buffer(AppState& s, const std::string& word) {
 void Add_Pages_MetaTag_keywords(AppState& s) {
   const std::string content = decode::Get_MetaTag_Value(s, "keywords");
   s.KeywordSplitCount = words::Split_String(s, content);
-  AddSplitParts(s, s.KeywordSplitCount);
+  // The split keeps a closing comma on the last part ("c," from "a, b, c,"); the page's
+  // keywords are taken without it, so "a, b, c," gives the keywords a, b and c.
+  for (int16_t k = 0; k < s.KeywordSplitCount; ++k) {
+    std::string part = At(s.Split_String_List, k);
+    if (k == s.KeywordSplitCount - 1 && part.size() > 1 && part.back() == ',')
+      part.pop_back();
+    Add_Word_To_KeyWord_buffer(s, part);
+  }
 }
 
 void Add_Users_Hand_Selected_Keywords_to_Pages_keywords(AppState& s) {

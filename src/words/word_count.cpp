@@ -1,5 +1,6 @@
 #include "words/word_count.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 #include <unordered_set>
@@ -13,38 +14,28 @@ namespace zentrel::words {
 
 namespace {
 
-// The filter words as whole tokens of the filter string. A counted word never holds a space,
-// so " w " stands in the filter string exactly when w is one of its space-bounded tokens; a
-// word with a space (or an empty one) falls back to the plain search.
+// The filter test: " w " searched in the filter string, where w never holds a space. A filter
+// entry that holds spaces ("cats and dogs") must never filter a single counted word, so the
+// test is made against whole entries; a word with a space (or an empty one) falls back to the
+// plain search of the filter string.
 class FilterLookup {
  public:
-  explicit FilterLookup(const std::string& filterText) : text_(filterText) {
-    std::string_view t = text_;
-    size_t i = 0;
-    while (i < t.size()) {
-      if (t[i] == ' ') {
-        ++i;
-        continue;
-      }
-      size_t end = t.find(' ', i);
-      if (end == std::string_view::npos)
-        end = t.size();
-      // A token at either end of the string has no space around it and cannot be found.
-      if (i > 0 && end < t.size())
-        tokens_.emplace(t.substr(i, end - i));
-      i = end;
-    }
+  explicit FilterLookup(const AppState& s) : text_(s.FilterWordsText) {
+    const int32_t count =
+        std::min<int32_t>(s.FilterCount, static_cast<int32_t>(s.FilterWords.size()));
+    for (int32_t i = 0; i < count; ++i)
+      entries_.insert(s.FilterWords[static_cast<size_t>(i)]);
   }
 
   bool Contains(const std::string& lowered) const {
     if (lowered.empty() || lowered.find(' ') != std::string::npos)
       return text_.find(" " + lowered + " ") != std::string::npos;
-    return tokens_.count(lowered) != 0;
+    return entries_.count(lowered) != 0;
   }
 
  private:
   const std::string& text_;
-  std::unordered_set<std::string> tokens_;
+  std::unordered_set<std::string> entries_;
 };
 
 bool HasNonLetter(const AppState& s, const std::string& w) {
@@ -70,15 +61,12 @@ void ResizeDictionary(AppState& s) {
   s.UniqueWordValues.resize(size, 0);
 }
 
-void AddToDictionary(AppState& s, std::string w, const FilterLookup* lookup) {
+void AddToDictionary(AppState& s, std::string w, const FilterLookup& lookup) {
   if (s.WordMatchForceCase == 1)
     w = text::LCase(w);
   if (s.WordMatchIgnoreAlphaNumeric == 1 && HasNonLetter(s, w))
     return;
-  const std::string lowered = text::LCase(w);
-  const bool filtered = lookup ? lookup->Contains(lowered)
-                               : s.FilterWordsText.find(" " + lowered + " ") != std::string::npos;
-  if (filtered)
+  if (lookup.Contains(text::LCase(w)))
     return;
 
   auto hit = s.UniqueWordIndex.find(w);
@@ -118,17 +106,18 @@ void Init_Document_Word_List(AppState& s) {
 
 void Word_Count_Stripped_Text(AppState& s) {
   Init_Document_Word_Dictionary(s);
-  const FilterLookup lookup(s.FilterWordsText);
+  const FilterLookup lookup(s);
   const int64_t length = static_cast<int64_t>(s.StrippedText.size());
   for (int64_t i = 1; i <= length; ++i) {
     if (s.StrippedText[static_cast<size_t>(i - 1)] == ' ')
       continue;
     std::string word = Get_Word_String(s, static_cast<int32_t>(i));
+    const int64_t advance = static_cast<int64_t>(word.size());
     if (word.size() > 1) {
       Add_Word_To_Unique_Word_Table(s, word);
-      AddToDictionary(s, std::move(word), &lookup);
+      AddToDictionary(s, std::move(word), lookup);
     }
-    i += static_cast<int64_t>(word.size());
+    i += advance;
   }
   Sort_Word_Strings(s);
 }
@@ -147,7 +136,7 @@ void Add_Word_To_Unique_Word_Table(AppState& s, std::string word) {
 }
 
 void Add_Word_To_Dictionary(AppState& s, std::string word) {
-  AddToDictionary(s, std::move(word), nullptr);
+  AddToDictionary(s, std::move(word), FilterLookup(s));
 }
 
 void Sort_Word_Strings(AppState& s) {
