@@ -12,6 +12,10 @@ struct AppState;
 
 namespace zentrel::analysis {
 
+inline constexpr int16_t kKeywordListStart = 500;
+inline constexpr int16_t kKeywordListStep = 200;
+inline constexpr int kKeywordSortTally = 5001;  // body matches 0..5000
+
 struct KeywordListFields {
   // Five per-keyword arrays with indexes 0..KeywordCapacity.
   std::vector<std::string> KeywordList;
@@ -19,7 +23,9 @@ struct KeywordListFields {
   std::vector<int16_t> KeywordTitleMatches;
   std::vector<int16_t> KeywordFirstChr;
   std::vector<std::string> KeywordPhrase;
-  // KeywordWords[word index 0..KeywordWordsSize][keyword index 0..KeywordCapacity].
+  // KeywordWords[keyword index 0..KeywordCapacity][word index 0..KeywordLastWordIndex]: each
+  // keyword keeps only its own words, so one long phrase does not widen every keyword's row.
+  // KeywordWordsSize still records the highest word bound reached.
   std::vector<std::vector<std::string>> KeywordWords;
   std::vector<int16_t> KeywordLastWordIndex;
   int16_t KeywordWordsSize = 1;

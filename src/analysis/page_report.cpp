@@ -1,5 +1,64 @@
 #include "analysis/page_report.h"
 
 #include "app/app_state.h"
+#include "base/run_time_error.h"
+#include "base/text.h"
 
-namespace zentrel::analysis {}  // namespace zentrel::analysis
+namespace zentrel::analysis {
+
+void Reset_Report(AppState& s) {
+  s.ReportBuffer.clear();
+  s.ReportBufferSize = kReportBufferStart;
+  s.ReportWritePos = 1;
+}
+
+void Report(AppState& s, const std::string& text) {
+  const int64_t length = static_cast<int64_t>(text.size()) + 2;
+  // A line longer than one step still fits whole: the buffer grows until it does.
+  while (int64_t{s.ReportWritePos} + length >= s.ReportBufferSize)
+    s.ReportBufferSize = ToInt32(int64_t{s.ReportBufferSize} + kReportBufferStep);
+  s.ReportBuffer += text;
+  s.ReportBuffer += text::kCrLf;
+  s.ReportWritePos = ToInt32(int64_t{s.ReportWritePos} + length);
+}
+
+int32_t Report_Center_Pad(size_t length) {
+  // 74/2 - length/2, halves going to the even neighbour.
+  const int64_t twice = kReportWidth - static_cast<int64_t>(length);
+  int64_t pad;
+  if (twice % 2 == 0) {
+    pad = twice / 2;
+  } else {
+    const int64_t below = (twice - 1) / 2;  // twice is odd, so this is exact
+    pad = below % 2 == 0 ? below : below + 1;
+  }
+  return pad < 0 ? 0 : static_cast<int32_t>(pad);
+}
+
+std::string Report_Center_AddString(const std::string& text) {
+  return std::string(static_cast<size_t>(Report_Center_Pad(text.size())), ' ') + text;
+}
+
+void Report_Center(AppState& s, const std::string& text) {
+  Report(s, Report_Center_AddString(text));
+}
+
+void Report_Section_Break(AppState& s, const std::string& text) {
+  Report(s, kReportRule);
+  Report_Center(s, text);
+  Report(s, kReportRule);
+}
+
+void Report_Title(AppState& s, const std::string& text) {
+  const std::string pad(static_cast<size_t>(Report_Center_Pad(text.size())), ' ');
+  Report(s, pad + text);
+  Report(s, pad + std::string(text.size(), '='));
+}
+
+void Reports_Colour_Warnings(AppState&) {}
+
+std::string Report_Text(const AppState& s) {
+  return s.ReportBuffer + " ";
+}
+
+}  // namespace zentrel::analysis

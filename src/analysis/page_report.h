@@ -13,7 +13,13 @@ namespace zentrel::analysis {
 inline constexpr int32_t kReportBufferStart = 100000;
 inline constexpr int32_t kReportBufferStep = 25000;
 
+inline constexpr const char* kReportRule =
+    "*=----------------------------------------------------------------------=*";
+inline constexpr int32_t kReportWidth = 74;
+
 struct PageReportFields {
+  // The text written so far. The classic buffer is this text followed by spaces up to
+  // ReportBufferSize; only the written part is stored, and the size is kept as bookkeeping.
   std::string ReportBuffer;
   int32_t ReportBufferSize = 0;
   int32_t ReportWritePos = 1;  // 1-based
@@ -26,7 +32,10 @@ std::string Report_Center_AddString(const std::string& text);
 void Report_Section_Break(AppState& s, const std::string& text);
 void Report_Title(AppState& s, const std::string& text);
 void Reports_Colour_Warnings(AppState& s);
-// What the report holds so far: the first ReportWritePos characters of the buffer.
+// The spaces that centre a text of this length on the 74-character report width.
+int32_t Report_Center_Pad(size_t length);
+// What the report holds so far: the first ReportWritePos characters of the buffer, that is
+// everything written and one trailing space.
 std::string Report_Text(const AppState& s);
 
 }  // namespace zentrel::analysis

@@ -1,5 +1,61 @@
 #include "analysis/report_export.h"
 
 #include "app/app_state.h"
+#include "app/page_saving.h"
+#include "base/file_io.h"
 
-namespace zentrel::analysis {}  // namespace zentrel::analysis
+namespace zentrel::analysis {
+
+namespace {
+
+// Writes a text area's whole text, as it stands, to a file the user picks. A failed write is
+// shown; the atomic writer has left any old file of that name intact.
+void Save_Text_As(AppState& s, const std::string& text) {
+  std::string path = app::Do_Select_Save_File(s, "", "(*.txt)|*.txt|", 1, ".txt");
+  if (path.empty())
+    return;
+  try {
+    file_io::WriteFileAtomic(path, text, *s.files);
+  } catch (const file_io::FileError& e) {
+    s.platform->ShowMessage(e.what());
+  }
+}
+
+}  // namespace
+
+void PageReport_SAVEAS_Click(AppState& s) {
+  if (!s.Form.ReportTextBox.empty())
+    Do_Save_REPORT(s);
+}
+
+void Do_Save_REPORT(AppState& s) {
+  Save_Text_As(s, s.Form.ReportTextBox);
+}
+
+// No test for an empty text: an empty body is saved as an empty file.
+void ViewBody_SaveAs_Click(AppState& s) {
+  Save_Text_As(s, s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox);
+}
+
+void PageReport_Export_WordCount_CheckBox_Click(AppState& s) {
+  s.ReportExportWordCount = s.Form.PageReport_Export_WordCount_CheckBox;
+}
+
+void ViewBody_ShowRAWBODY_CHeckBox_Click(AppState& s) {
+  s.ViewBodyShowRaw = s.Form.ViewBody_ShowRAWBODY_CHeckBox;
+}
+
+void Set_Users_METATAGS_TextBox(AppState& s, const std::string& text) {
+  s.Form.Users_METATAGS_TextBox = text;
+  Users_METATAGS_TextBox_Change(s);
+}
+
+void Users_METATAGS_TextBox_Change(AppState& s) {
+  s.UsersKeywordsText = s.Form.Users_METATAGS_TextBox;
+}
+
+void Users_METATAGS_Clear_Command_Click(AppState& s) {
+  Set_Users_METATAGS_TextBox(s, "");
+}
+
+}  // namespace zentrel::analysis

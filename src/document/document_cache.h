@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/run_time_error.h"
+
 namespace zentrel {
 struct AppState;
 }
@@ -28,6 +30,13 @@ struct DocumentCacheFields {
           CodeOpenBracket = 0, CodeCloseBracket = 0, CodeUnderscore = 0, CodeQuestion = 0,
           CodeOpenSquare = 0, CodeCloseSquare = 0;
 };
+
+// Byte p of the cache. A position outside the cache is a subscript error, never a stray read.
+inline uint8_t CacheByte(const DocumentCacheFields& c, int64_t p) {
+  if (p < 0 || static_cast<uint64_t>(p) >= c.DocumentBytes.size())
+    RaiseSubscriptOutOfRange();
+  return c.DocumentBytes[static_cast<size_t>(p)];
+}
 
 // Takes the page source editor's text back into the cache when it changed; returns the length.
 int32_t Reload_File_From_Memory_TO_Cache(AppState& s);

@@ -1,5 +1,217 @@
 #include "document/tag_scanner.h"
 
-#include "app/app_state.h"
+#include <cstring>
 
-namespace zentrel::document {}  // namespace zentrel::document
+#include "app/app_state.h"
+#include "base/run_time_error.h"
+#include "base/text.h"
+
+namespace zentrel::document {
+
+namespace {
+
+constexpr uint8_t kTagOpen = '<';
+constexpr uint8_t kTagClose = '>';
+constexpr uint8_t kQuote = '"';
+constexpr uint8_t kSlash = '/';
+constexpr uint8_t kSpace = 32;
+constexpr int32_t kOriginalTagListStep = 50;
+
+bool EndsTagName(uint8_t b) {
+  return b <= kSpace || b == kTagClose;
+}
+
+std::string ClosingTextFor(const std::string& openText) {
+  std::string closing = "</" + (openText.empty() ? std::string() : openText.substr(1));
+  if (closing.back() != '>')
+    closing.push_back('>');
+  return text::LCase(closing);
+}
+
+// First p in [from, last] where the closing text stands (case-insensitively), or -1. The
+// caller has made sure every byte it may compare lies inside the cache.
+int32_t SearchClosing(const AppState& s, const std::string& closing, int64_t from, int64_t last) {
+  const uint8_t* bytes = s.DocumentBytes.data();
+  int64_t p = from;
+  while (p <= last) {
+    const void* hit = std::memchr(bytes + p, kTagOpen, static_cast<size_t>(last - p + 1));
+    if (hit == nullptr)
+      return -1;
+    p = static_cast<const uint8_t*>(hit) - bytes;
+    if (bytes[p + 1] == kSlash) {
+      size_t i = 0;
+      while (i < closing.size() &&
+             text::LowerAscii(static_cast<char>(bytes[p + static_cast<int64_t>(i)])) == closing[i])
+        ++i;
+      if (i == closing.size())
+        return static_cast<int32_t>(p);
+    }
+    ++p;
+  }
+  return -1;
+}
+
+ClosingTagMemo* FindMemo(AppState& s, const std::string& closing) {
+  for (ClosingTagMemo& memo : s.ClosingTagMemos) {
+    if (memo.closing == closing)
+      return &memo;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+ClosingTagMemoScope::ClosingTagMemoScope(TagScannerFields& fields) : fields_(fields) {
+  fields_.ClosingTagMemos.clear();
+  fields_.ClosingTagMemoActive = true;
+}
+
+ClosingTagMemoScope::~ClosingTagMemoScope() {
+  fields_.ClosingTagMemoActive = false;
+  fields_.ClosingTagMemos.clear();
+}
+
+void Add_Tag_Ignore(AppState& s, const std::string& openText, const std::string& closeText,
+                    int16_t kind) {
+  const int16_t i = s.TagListCount;
+  At(s.TagOpenList, i) = openText;
+  At(s.TagCloseList, i) = closeText;
+  At(s.TagKindList, i) = std::to_string(kind);
+  s.TagListCount = ToInt16(i + 1);
+}
+
+void Build_Tag_list(AppState& s) {
+  Add_Tag_Ignore(s, "<meta", "</meta>", 1);
+  Add_Tag_Ignore(s, "<a", "</a>", 2);
+  Add_Tag_Ignore(s, "<script", "</script>", 2);
+  Add_Tag_Ignore(s, "<applet", "</applet>", 2);
+  Add_Tag_Ignore(s, "<?", "?>", 2);
+  Add_Tag_Ignore(s, "<?php", "?>", 2);
+  Add_Tag_Ignore(s, "<style", "<style>", 2);
+}
+
+int16_t Scan_Tag_List(const AppState& s, const std::string& tagText) {
+  const std::string lower = text::LCase(tagText);
+  for (int16_t i = 0; i < s.TagListCount; ++i) {
+    if (At(s.TagOpenList, i) == lower)
+      return ToInt16(static_cast<int64_t>(text::Val(At(s.TagKindList, i))));
+  }
+  return 0;
+}
+
+std::string Get_Open_Html_String(const AppState& s) {
+  std::string tag;
+  for (int64_t p = s.ScanPosition; p < s.DocumentLength; ++p) {
+    const uint8_t b = CacheByte(s, p);
+    if (EndsTagName(b))
+      break;
+    tag.push_back(static_cast<char>(b));
+  }
+  return tag;
+}
+
+std::string Get_This_MetaTags_Variables(const AppState& s, const std::string& keyword) {
+  std::string value;
+  // A quote does not shield a ">" here: the first ">" always ends the value.
+  for (int64_t p = static_cast<int64_t>(s.ScanPosition) + static_cast<int64_t>(keyword.size());
+       p <= s.ScanEndPosition; ++p) {
+    const uint8_t b = CacheByte(s, p);
+    if (b == kTagClose)
+      break;
+    value.push_back(static_cast<char>(b));
+  }
+  return value;
+}
+
+void Find_Close_Of_This_Html_Tag(AppState& s, const std::string& tagText) {
+  bool inQuote = false;
+  for (int64_t p = static_cast<int64_t>(s.ScanPosition) + static_cast<int64_t>(tagText.size());
+       p <= s.ScanEndPosition; ++p) {
+    const uint8_t b = CacheByte(s, p);
+    if (b == kQuote) {
+      inQuote = !inQuote;
+    } else if (b == kTagClose && !inQuote) {
+      s.ScanPosition = ToInt32(p + 1);
+      return;
+    }
+  }
+  s.ScanPosition = ToInt32(static_cast<int64_t>(s.ScanEndPosition) + 1);
+}
+
+int32_t Find_Closing_Html_Tag(AppState& s, const std::string& openText) {
+  const std::string closing = ClosingTextFor(openText);
+  const int64_t from = s.ScanPosition;
+  // A candidate needs p + length < DocumentLength, which also keeps every compared byte in
+  // the cache.
+  int64_t last = static_cast<int64_t>(s.DocumentLength) - static_cast<int64_t>(closing.size()) - 1;
+  if (s.ScanEndPosition < last)
+    last = s.ScanEndPosition;
+  int32_t found = -1;
+  if (from <= last) {
+    CacheByte(s, from);
+    CacheByte(s, last + static_cast<int64_t>(closing.size()));
+
+    ClosingTagMemo* memo = s.ClosingTagMemoActive ? FindMemo(s, closing) : nullptr;
+    if (memo != nullptr && memo->end == s.ScanEndPosition && memo->length == s.DocumentLength &&
+        memo->from <= from && (memo->result < 0 || from <= memo->result)) {
+      found = memo->result;
+    } else {
+      found = SearchClosing(s, closing, from, last);
+      if (s.ClosingTagMemoActive) {
+        if (memo == nullptr) {
+          s.ClosingTagMemos.push_back({closing, 0, -1, 0, 0});
+          memo = &s.ClosingTagMemos.back();
+        }
+        *memo = {closing, static_cast<int32_t>(from), found, s.ScanEndPosition, s.DocumentLength};
+      }
+    }
+  }
+  if (found >= 0)
+    s.ScanPosition = ToInt32(static_cast<int64_t>(found) + static_cast<int64_t>(closing.size()));
+  return found;
+}
+
+std::string Get_Open_Html_String_NEW(const AppState& s, int32_t start) {
+  const auto length = static_cast<int64_t>(s.DocumentText.size());
+  if (start < 1 || start > length)
+    return {};
+  int64_t p = start;
+  // The text's last character is never examined.
+  while (p != length && !EndsTagName(static_cast<uint8_t>(s.DocumentText[p - 1])))
+    ++p;
+  return s.DocumentText.substr(static_cast<size_t>(start - 1), static_cast<size_t>(p - start));
+}
+
+std::string Get_This_Html_Variable_Tag2(AppState& s, int32_t start) {
+  std::string value;
+  if (start < 0 || start >= s.DocumentLength) {
+    s.ScanPosition = start;
+    return value;
+  }
+  int64_t p = start;
+  while (true) {
+    const uint8_t b = CacheByte(s, p);
+    if (b == kTagClose || p >= static_cast<int64_t>(s.DocumentLength) - 1) {
+      if (b != kTagClose)
+        value.push_back(static_cast<char>(b));
+      break;
+    }
+    value.push_back(static_cast<char>(b));
+    ++p;
+  }
+  s.ScanPosition = ToInt32(p + 1);
+  return value;
+}
+
+void Add_Tag_To_OriginalTagList(AppState& s, const std::string& text) {
+  if (s.OriginalTagListCount >= s.OriginalTagListCapacity) {
+    s.OriginalTagListCapacity =
+        ToInt32(static_cast<int64_t>(s.OriginalTagListCount) + kOriginalTagListStep);
+  }
+  if (s.OriginalTagList.size() < static_cast<size_t>(s.OriginalTagListCapacity))
+    s.OriginalTagList.resize(static_cast<size_t>(s.OriginalTagListCapacity));
+  s.OriginalTagList[static_cast<size_t>(s.OriginalTagListCount)] = text;
+  s.OriginalTagListCount = ToInt32(static_cast<int64_t>(s.OriginalTagListCount) + 1);
+}
+
+}  // namespace zentrel::document

@@ -1,5 +1,156 @@
 #include "words/filter_dictionary.h"
 
-#include "app/app_state.h"
+#include <algorithm>
+#include <string_view>
 
-namespace zentrel::words {}  // namespace zentrel::words
+#include "app/app_state.h"
+#include "base/file_io.h"
+#include "base/run_time_error.h"
+#include "base/text.h"
+
+namespace zentrel::words {
+
+namespace {
+
+void AllocateFilterWords(AppState& s) {
+  s.FilterWords.assign(static_cast<size_t>(s.FilterCapacity) + 1, std::string());
+}
+
+}  // namespace
+
+std::string Standard_Dictionary_Path(const AppState& s) {
+  return s.ProgramFolder + "/dictionary/Zentrel_Standard.txt";
+}
+
+void Load_Word_Filter_Dictionary(AppState& s, const std::string& path,
+                                 const std::string& textToAppendTo) {
+  if (path.empty() || !file_io::FileExists(path))
+    return;
+  std::string content;
+  try {
+    content = file_io::ReadWholeFile(path);
+  } catch (const file_io::FileError&) {
+    return;  // a folder or an unreadable file loads nothing, like a missing one
+  }
+  std::string box = textToAppendTo;
+  for (const std::string& item : file_io::ReadListItems(content)) {
+    box += item;
+    box += text::kCrLf;
+  }
+  s.Form.WordFiltersPage_WordDictionary = std::move(box);
+}
+
+void Save_Word_Filter_Dictionary(AppState& s, const std::string& path) {
+  if (path.empty())
+    return;
+  file_io::WriteFileAtomic(path, s.Form.WordFiltersPage_WordDictionary + std::string(text::kCrLf),
+                           *s.files);
+}
+
+void Resort_And_Removed_Doubles_From_Filter_Dictionary(AppState& s) {
+  std::string all = text::LCase(s.Form.WordFiltersPage_WordDictionary);
+  AllocateFilterWords(s);
+  s.FilterCount = 0;
+  all += text::kCrLf;
+  all = text::ReplaceAll(all, text::kCrLf, ",");
+  std::string_view rest = all;
+  size_t comma;
+  while ((comma = rest.find(',')) != std::string_view::npos) {
+    Add_Word_Filter(s, text::Trim(rest.substr(0, comma)));
+    rest.remove_prefix(comma + 1);
+    s.platform->DoEvents();
+  }
+  Sort_Filter_Word_Dictionary(s);
+  Remove_Doubles_Filter_Word_Dictionary(s);
+  Build_Filter_AlphaBet_Range_Pointers(s, ToInt16(int32_t{s.FilterCount} - 1));
+  SetWordFilter_TextBoxes(s);
+}
+
+void Add_Word_Filter(AppState& s, const std::string& word) {
+  if (s.FilterCount >= s.FilterCapacity) {
+    s.FilterCapacity = ToInt16(int32_t{s.FilterCapacity} + kFilterWordsStep);
+    s.FilterWords.resize(static_cast<size_t>(s.FilterCapacity) + 1);
+  }
+  if (word.empty())
+    return;
+  At(s.FilterWords, s.FilterCount) = word;
+  s.FilterCount = ToInt16(int32_t{s.FilterCount} + 1);
+}
+
+void Sort_Filter_Word_Dictionary(AppState& s) {
+  // Ordinal order: the first character's code decides, then the rest of the word code by
+  // code, which is what a sort by first letter followed by a sort within each letter gives.
+  s.FilterSortScratch.assign(static_cast<size_t>(s.FilterCount) + 1, std::string());
+  CheckIndex(s.FilterCount, 0, static_cast<int64_t>(s.FilterWords.size()));
+  std::sort(s.FilterWords.begin(), s.FilterWords.begin() + s.FilterCount);
+  Build_Filter_AlphaBet_Range_Pointers(s, ToInt16(int32_t{s.FilterCount} - 1));
+}
+
+void Remove_Doubles_Filter_Word_Dictionary(AppState& s) {
+  const int32_t count = s.FilterCount;
+  if (count < 2) {
+    s.FilterCount = 0;  // a single word is dropped as well
+    return;
+  }
+  int32_t o = 0;
+  int32_t i = 0;
+  while (i <= count - 1) {
+    const std::string word = At(s.FilterWords, i);
+    int32_t j = i + 1;
+    while (j < count && At(s.FilterWords, j) == word)
+      ++j;
+    if (!word.empty())
+      At(s.FilterWords, o++) = word;
+    i = j;
+  }
+  s.FilterCount = ToInt16(o);
+}
+
+void Build_Filter_AlphaBet_Range_Pointers(AppState& s, int16_t lastIndex) {
+  s.FilterFirstIndex.fill(kNoFilterIndex);
+  s.FilterLastIndex.fill(kNoFilterIndex);
+  for (int32_t i = 0; i <= lastIndex; ++i) {
+    const std::string& word = At(s.FilterWords, i);
+    const unsigned char c = word.empty() ? 0 : static_cast<unsigned char>(word[0]);
+    if (s.FilterFirstIndex[c] == kNoFilterIndex)
+      s.FilterFirstIndex[c] = static_cast<uint16_t>(i);
+    s.FilterLastIndex[c] = static_cast<uint16_t>(i);
+  }
+}
+
+void Build_Filter_Word_Dictionary(AppState& s) {
+  s.FilterCapacity = kFilterWordsStart;
+  AllocateFilterWords(s);
+  Load_Word_Filter_Dictionary(s, Standard_Dictionary_Path(s), "");
+  Resort_And_Removed_Doubles_From_Filter_Dictionary(s);
+  Build_Filter_AlphaBet_Range_Pointers(s, ToInt16(int32_t{s.FilterCount} - 1));
+  SetWordFilter_TextBoxes(s);
+}
+
+void Load_Default_Word_Filters(AppState& s, const std::string& path) {
+  s.FilterDictionaryFile = path;
+  s.Form.WordFiltersPage_SelectDefaultWordDictionary_Text = path;
+  Load_Word_Filter_Dictionary(s, path, "");
+  Resort_And_Removed_Doubles_From_Filter_Dictionary(s);
+}
+
+void SetWordFilter_TextBoxes(AppState& s) {
+  std::string box;
+  for (int32_t i = 0; i < s.FilterCount; ++i) {
+    box += At(s.FilterWords, i);
+    box += text::kCrLf;
+  }
+  s.Form.WordFiltersPage_WordDictionary = std::move(box);
+}
+
+void Build_Filter_Words_Text(AppState& s) {
+  std::string filter = " ";
+  for (int32_t i = 0; i < s.FilterCount; ++i) {
+    filter += At(s.FilterWords, i);
+    filter += ' ';
+  }
+  filter += ' ';  // the empty slot at the count
+  s.FilterWordsText = std::move(filter);
+}
+
+}  // namespace zentrel::words

@@ -13,6 +13,10 @@ struct AppState;
 
 namespace zentrel::words {
 
+inline constexpr int16_t kFilterWordsStart = 1000;
+inline constexpr int16_t kFilterWordsStep = 500;
+inline constexpr uint16_t kNoFilterIndex = 65535;
+
 struct FilterDictionaryFields {
   std::vector<std::string> FilterWords;  // indexes 0..FilterCapacity
   int16_t FilterCount = 0;
@@ -23,7 +27,8 @@ struct FilterDictionaryFields {
   std::string FilterWordsText;  // " w1 w2 ... wn  "
 };
 
-// "\dictionary\Zentrel_Standard.txt" under the program folder, lower-cased.
+// "dictionary/Zentrel_Standard.txt" under the program folder (kept as written: the file system
+// is case-sensitive).
 std::string Standard_Dictionary_Path(const AppState& s);
 void Load_Word_Filter_Dictionary(AppState& s, const std::string& path,
                                  const std::string& textToAppendTo);
@@ -36,7 +41,8 @@ void Build_Filter_AlphaBet_Range_Pointers(AppState& s, int16_t lastIndex);
 void Build_Filter_Word_Dictionary(AppState& s);
 void Load_Default_Word_Filters(AppState& s, const std::string& path);
 void SetWordFilter_TextBoxes(AppState& s);
-// The filter string the word count searches: " " then each word and a space.
+// The filter string the word count searches: " ", then each word and a space, then one more
+// space for the empty slot at the count (an empty list gives two spaces).
 void Build_Filter_Words_Text(AppState& s);
 
 }  // namespace zentrel::words

@@ -13,13 +13,19 @@ struct AppState;
 
 namespace zentrel::words {
 
+inline constexpr int32_t kDocumentWordsStart = 5000;
+inline constexpr int32_t kDocumentWordsStep = 500;
+inline constexpr int32_t kUniqueWordsStart = 2000;
+inline constexpr int32_t kUniqueWordsStep = 500;
+inline constexpr int kWordSortBuckets = 1001;  // occurrences 0..1000
+
 struct WordCountFields {
-  std::vector<std::string> DocumentWords;
+  std::vector<std::string> DocumentWords;  // indexes 0..DocumentWordsCapacity
   std::vector<std::string> DocumentWordsUpper;
   int32_t DocumentWordCount = 0;
   int32_t DocumentWordsCapacity = 0;
 
-  std::vector<std::string> UniqueWords;
+  std::vector<std::string> UniqueWords;  // indexes 0..UniqueWordsCapacity
   std::vector<int16_t> UniqueWordCounts;
   std::vector<int32_t> UniqueWordValues;
   int16_t UniqueWordCount = 0;

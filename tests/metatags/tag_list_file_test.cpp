@@ -1,1 +1,92 @@
+#include "metatags/tag_list_file.h"
+
 #include <gtest/gtest.h>
+
+#include "app/app_state.h"
+#include "base/run_time_error.h"
+#include "decode/meta_tag_table.h"
+#include "fake_platform.h"
+#include "metatags/meta_tag_panel.h"
+#include "test_files.h"
+
+namespace zentrel::metatags {
+namespace {
+
+using testing::ReadFile;
+
+struct Panel {
+  Panel() : platform(folder.path().string()), s(platform) { decode::Init_MetaTag_Table(s); }
+  void Field(int16_t i, const std::string& text, int16_t marked) {
+    Set_MetaTag_TextBox(s, i, text);
+    s.Form.MetaTag_Selection_CheckBox[static_cast<size_t>(i)] = marked;
+  }
+  const std::string& Text(size_t i) const { return s.Form.MetaTag_TextBox[i]; }
+  testing::TempFolder folder;
+  testing::FakePlatform platform;
+  AppState s;
+};
+
+TEST(Save_MetaTag_List, MarkedNonEmptyFieldsOneLineEachWithCommasEncoded) {
+  Panel p;
+  std::string path = p.folder.File("set.tag");
+  testing::WriteFile(path, "old contents\r\n");
+  p.Field(0, " Title, with comma ", 1);
+  p.Field(3, "meta, tags", 1);
+  p.Field(4, "   ", 1);      // marked but blank
+  p.Field(6, "Someone", 0);  // not marked
+  p.Field(10, "30 days", 1);
+  p.platform.AnswerSave(path);
+  Save_MetaTag_List(p.s);
+  EXPECT_EQ(ReadFile(path),
+            "pagetitle:Title&coma& with comma\r\nkeywords:meta&coma& tags\r\nrevisit-after:30 "
+            "days\r\n");
+  ASSERT_EQ(p.platform.dialogs.size(), 1u);
+  EXPECT_EQ(p.platform.dialogs[0].FileName, "");
+  EXPECT_EQ(p.platform.dialogs[0].Filter, "(*.tag)|*.tag|(*.*)|*.*|");
+
+  // Back into the marked fields; the unmarked one keeps its text though the file names it.
+  p.Field(0, "", 1);
+  p.Field(3, "", 1);
+  p.Field(6, "kept", 0);
+  p.platform.AnswerOpen(path);
+  Load_MetaTagList(p.s);
+  EXPECT_EQ(p.Text(0), "Title, with comma");
+  EXPECT_EQ(p.Text(3), "meta, tags");
+  EXPECT_EQ(p.Text(6), "kept");
+
+  p.s.Form.MetaTag_Selection_CheckBox = {};
+  p.platform.AnswerSave(path);
+  Save_MetaTag_List(p.s);
+  EXPECT_EQ(ReadFile(path), "");
+}
+
+TEST(Apply_MetaTag_List_Text, SkipsUnknownNamesAndLeavesUnnamedFields) {
+  Panel p;
+  p.Field(1, "old", 1);
+  p.Field(2, "kept abstract", 1);  // marked, not named
+  p.Field(3, "", 1);
+  Apply_MetaTag_List_Text(p.s,
+                          "description:a&coma& b\r\nbogus:1\r\nnocolon\r\nKeywords:upper\r\n"
+                          "keywords:k\n");
+  EXPECT_EQ(p.Text(1), "a, b");
+  EXPECT_EQ(p.Text(2), "kept abstract");
+  EXPECT_EQ(p.Text(3), "k");
+
+  // A missing file or a cancelled dialog changes nothing.
+  p.platform.AnswerOpen(p.folder.File("missing.tag"));
+  Load_MetaTagList(p.s);
+  p.platform.CancelDialog();
+  Load_MetaTagList(p.s);
+  EXPECT_EQ(p.Text(1), "a, b");
+
+  // "zentrel" has no field, so there is no mark to look at.
+  try {
+    Apply_MetaTag_List_Text(p.s, "zentrel:x\r\n");
+    ADD_FAILURE() << "no run-time error";
+  } catch (const RunTimeError& e) {
+    EXPECT_EQ(e.Code(), 9);
+  }
+}
+
+}  // namespace
+}  // namespace zentrel::metatags

@@ -1,1 +1,125 @@
+#include "words/filter_dictionary.h"
+
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "app/app_state.h"
+#include "base/text.h"
+#include "fake_platform.h"
+#include "test_files.h"
+
+namespace zentrel::words {
+namespace {
+
+using Words = std::vector<std::string>;
+
+struct Dictionary {
+  testing::FakePlatform platform;
+  AppState s{platform};
+
+  Words Rebuild(const std::string& box) {
+    s.Form.WordFiltersPage_WordDictionary = box;
+    Resort_And_Removed_Doubles_From_Filter_Dictionary(s);
+    return {s.FilterWords.begin(), s.FilterWords.begin() + s.FilterCount};
+  }
+};
+
+TEST(Resort_And_Removed_Doubles_From_Filter_Dictionary, CleansSortsAndDropsRepeats) {
+  Dictionary d;
+  d.s.FilterCapacity = 1000;
+  EXPECT_EQ(d.Rebuild("The, and\r\nof\r\nthe"), (Words{"and", "of", "the"}));
+  EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "and\r\nof\r\nthe\r\n");
+  EXPECT_EQ(d.s.FilterFirstIndex['a'], 0);
+  EXPECT_EQ(d.s.FilterFirstIndex['t'], 2);
+  EXPECT_EQ(d.s.FilterLastIndex['t'], 2);
+  EXPECT_EQ(d.s.FilterFirstIndex['b'], kNoFilterIndex);
+  Build_Filter_Words_Text(d.s);
+  EXPECT_EQ(d.s.FilterWordsText, " and of the  ");
+
+  // Ordinal order, byte by byte; a lone LF or a tab does not separate entries.
+  EXPECT_EQ(d.Rebuild("b2\r\nb10\r\n\xE4h\r\nzed\nyes\r\nb10,, \t x"),
+            (Words{"\t x", "b10", "b2", "zed\nyes", "\xE4h"}));
+
+  // A single word, and an empty box, leave an empty list.
+  EXPECT_EQ(d.Rebuild("lonely"), Words{});
+  EXPECT_EQ(d.Rebuild(""), Words{});
+  EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "");
+  Build_Filter_Words_Text(d.s);
+  EXPECT_EQ(d.s.FilterWordsText, "  ");
+  // Two equal words are a repeat, not a single word: one stays.
+  EXPECT_EQ(d.Rebuild("x1,X1"), Words{"x1"});
+}
+
+TEST(Resort_And_Removed_Doubles_From_Filter_Dictionary, GrowsPastItsCapacity) {
+  Dictionary d;
+  d.s.FilterCapacity = 1000;
+  std::string box;
+  for (int i = 0; i < 1200; ++i)
+    box += "w" + std::to_string(10000 + i) + "\r\n";
+  Words words = d.Rebuild(box);
+  ASSERT_EQ(words.size(), 1200u);
+  EXPECT_EQ(d.s.FilterCapacity, 1500);
+  EXPECT_EQ(words.front(), "w10000");
+  EXPECT_EQ(words.back(), "w11199");
+}
+
+TEST(Load_Word_Filter_Dictionary, ReadsListItemsAndSavesTheBox) {
+  Dictionary d;
+  testing::TempFolder dir;
+  testing::WriteFile(dir.path() / "user.txt", "cats and dogs\r\n\"x, y\",Zebra\r\n");
+  d.s.Form.WordFiltersPage_WordDictionary = "unchanged";
+  Load_Word_Filter_Dictionary(d.s, dir.File("missing.txt"), "");
+  Load_Word_Filter_Dictionary(d.s, "", "");
+  EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "unchanged");
+
+  Load_Word_Filter_Dictionary(d.s, dir.File("user.txt"), "and\r\n");
+  EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "and\r\ncats and dogs\r\nx, y\r\nZebra\r\n");
+
+  Save_Word_Filter_Dictionary(d.s, dir.File("saved.txt"));
+  EXPECT_EQ(testing::ReadFile(dir.path() / "saved.txt"),
+            "and\r\ncats and dogs\r\nx, y\r\nZebra\r\n\r\n");
+  Save_Word_Filter_Dictionary(d.s, "");  // nothing to write to, nothing happens
+}
+
+TEST(Build_Filter_Word_Dictionary, StandardAndDefaultDictionaries) {
+  Dictionary d;
+  testing::TempFolder dir;
+  std::filesystem::create_directory(dir.path() / "dictionary");
+  testing::WriteFile(dir.path() / "dictionary" / "Zentrel_Standard.txt", "the\r\nand\r\nof\r\n");
+  testing::WriteFile(dir.path() / "mine.txt", "widget,gadget");
+  d.s.ProgramFolder = dir.path().string();
+  EXPECT_EQ(Standard_Dictionary_Path(d.s), dir.File("dictionary/Zentrel_Standard.txt"));
+
+  Build_Filter_Word_Dictionary(d.s);
+  EXPECT_EQ(d.s.FilterCapacity, 1000);
+  EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "and\r\nof\r\nthe\r\n");
+
+  // No default chosen: the standard list stays in force.
+  Load_Default_Word_Filters(d.s, "");
+  EXPECT_EQ(d.s.FilterCount, 3);
+  Load_Default_Word_Filters(d.s, dir.File("mine.txt"));
+  EXPECT_EQ(d.s.FilterDictionaryFile, dir.File("mine.txt"));
+  EXPECT_EQ(d.s.Form.WordFiltersPage_SelectDefaultWordDictionary_Text, dir.File("mine.txt"));
+  EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "gadget\r\nwidget\r\n");
+}
+
+TEST(Build_Filter_Word_Dictionary, ShippedStandardDictionary) {
+  Dictionary d;
+  const std::string bytes =
+      testing::ReadTestData("../../resources/dictionary/Zentrel_Standard.txt");
+  EXPECT_EQ(bytes.find('\n'), bytes.find("\r\n") + 1);
+  EXPECT_EQ(bytes, text::LCase(bytes));
+  Words words = d.Rebuild(bytes);
+  EXPECT_GE(words.size(), 300u);
+  EXPECT_LE(words.size(), 500u);
+  for (const char* common : {"the", "and", "of", "to", "is", "with", "however", "could"}) {
+    EXPECT_NE(std::find(words.begin(), words.end(), common), words.end()) << common;
+  }
+}
+
+}  // namespace
+}  // namespace zentrel::words
