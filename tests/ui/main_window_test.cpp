@@ -250,6 +250,22 @@ TEST_F(MainWindowTest, AnEditedFieldReachesThePageOnRebuildAndSaveKeepsTheOtherB
   author->selectAll();
   zentrel::testing::Type(author, QStringLiteral("J\u00FCrgen"));
 
+  // A pick in a choice list writes its field; "Set Date" composes the expiry date.
+  auto pick = [&](const std::string& name, const QString& entry) {
+    auto* list = W<QComboBox>(name);
+    const int index = list->findText(entry);
+    ASSERT_GE(index, 0) << name;
+    list->setCurrentIndex(index);
+    emit list->activated(index);
+  };
+  pick("PageMetaTags_RevisitAfter_DropDown", QStringLiteral(" 30 days"));
+  EXPECT_EQ(W<QLineEdit>("MetaTag_TextBox_10")->text(), QStringLiteral("30 days"));
+  pick("PageMetaTags_Expires_Day", QStringLiteral(" 9"));
+  pick("PageMetaTags_Expires_Month", QStringLiteral("December"));
+  pick("PageMetaTags_Expires_Year", QStringLiteral(" 2101"));
+  Click("PageMetaTags_Expires_SetDate");
+  EXPECT_EQ(W<QLineEdit>("MetaTag_TextBox_12")->text(), QStringLiteral("9 December 2101"));
+
   Click("MetaTagFunctions_ReThreadDocument");
   const QString page = Text("Html_Document_Editor");
   EXPECT_TRUE(page.contains(QStringLiteral("<META content=\"noindex\" name=\"robots\">")));
