@@ -12,15 +12,9 @@
 
 namespace zentrel::testing {
 
-inline QApplication& App() {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-  static int argc = 1;
-  static char name[] = "ui_tests";
-  static char* argv[] = {name, nullptr};
-  static QApplication app(argc, argv);
-  return app;
-}
+// The application of every view test; it is created before the first test and deleted after
+// the last, while Qt's own statics still live.
+QApplication& App();
 
 struct MissingControl : std::runtime_error {
   using std::runtime_error::runtime_error;
