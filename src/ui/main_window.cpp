@@ -17,6 +17,7 @@
 #include "app/control_table.h"
 #include "app/page_loading.h"
 #include "app/startup.h"
+#include "base/file_io.h"
 #include "ui/about_box.h"
 #include "ui/edit_page_tab.h"
 #include "ui/meta_tags_tab.h"
@@ -150,6 +151,9 @@ void MainWindow::Run(const std::string& name) {
 
 void MainWindow::LoadDroppedFile(const std::string& path) {
   Sync([&path](AppState& s) {
+    // As after the open dialog: a name that is not a file does nothing.
+    if (!file_io::FileExists(path))
+      return;
     s.DocumentLength = app::Load_File_To_Cache(s, path, 0);
     if (s.DocumentLength != 0)
       analysis::Meta_Tag_KeyWord_Scan(s, path);
@@ -195,11 +199,16 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
-  const QList<QUrl> urls = event->mimeData()->urls();
+  if (DropPage(*event->mimeData()))
+    event->acceptProposedAction();
+}
+
+bool MainWindow::DropPage(const QMimeData& mime) {
+  const QList<QUrl> urls = mime.urls();
   if (urls.isEmpty() || !urls.first().isLocalFile())
-    return;
-  event->acceptProposedAction();
+    return false;
   LoadDroppedFile(EncodePath(urls.first().toLocalFile()));
+  return true;
 }
 
 }  // namespace zentrel::ui

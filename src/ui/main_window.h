@@ -11,6 +11,7 @@
 #include "ui/controls.h"
 #include "ui/form_binding.h"
 
+class QMimeData;
 class QTabWidget;
 
 namespace zentrel::ui {
@@ -28,6 +29,8 @@ class MainWindow : public QMainWindow {
   void Run(const std::string& name);
   // Loads and analyses a page as "Load Page" does once the file is chosen (a dropped file).
   void LoadDroppedFile(const std::string& path);
+  // What a drop on the window does: the first local file of the data is loaded.
+  bool DropPage(const QMimeData& mime);
   void ShowAbout();
   void ShowSplash();
   // The page's codec (tests and screenshots look at it).

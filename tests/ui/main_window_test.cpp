@@ -13,10 +13,12 @@
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QTabWidget>
 #include <QTextCursor>
 #include <QToolButton>
+#include <QUrl>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
@@ -326,7 +328,11 @@ TEST_F(MainWindowTest, TheRecentMenuListsTheLastLoadsNewestFirst) {
   const std::string c = Save("c.htm", Page("Page C", "gamma"));
   Load(a);
   Load(b);
-  window->LoadDroppedFile(c);  // a dropped file counts as a load
+  // A page dropped on the window counts as a load.
+  QMimeData mime;
+  mime.setUrls({QUrl::fromLocalFile(QString::fromStdString(c))});
+  EXPECT_TRUE(window->DropPage(mime));
+  EXPECT_TRUE(Text("ReportTextBox").contains(QStringLiteral("Title: Page C")));
   auto entry = [&](int i) {
     return Find<QAction>(window.get(), "mnu_file_QuickLoadFile" + std::to_string(i));
   };
