@@ -378,6 +378,13 @@ TEST_F(MainWindowTest, HelpOpensTheDocsAndQuitEndsTheProgram) {
   EXPECT_TRUE(fs::exists(folder.path() / "Zentrel_Pref.txt"));
 }
 
+TEST_F(MainWindowTest, ClosingTheWindowSavesTheSettingsShown) {
+  W<QAbstractButton>("WordMatch_ForceCase")->click();
+  EXPECT_TRUE(window->close());
+  const std::string prefs = ReadFile(folder.path() / "Zentrel_Pref.txt");
+  EXPECT_NE(prefs.find("WordMatch_ForceSameCase: 1\r\n"), std::string::npos) << prefs;
+}
+
 // Not a check: writes a picture of each tab with a loaded page when ZENTREL_SCREENSHOT_DIR is set.
 TEST_F(MainWindowTest, Screenshots) {
   const char* out = std::getenv("ZENTREL_SCREENSHOT_DIR");
