@@ -2,7 +2,9 @@
 
 #include <QDialogButtonBox>
 #include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QPixmap>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -12,16 +14,33 @@ namespace zentrel::ui {
 
 namespace {
 
-QLabel* Heading(QWidget* parent) {
-  auto* title = new QLabel(QStringLiteral("%1 %2").arg(QLatin1String(app::kProgramName),
-                                                       QLatin1String(app::kProgramVersion)),
-                           parent);
+// The icon beside the program's name, with the version below the name when asked for.
+QLayout* Heading(QWidget* parent, bool withVersion) {
+  auto* row = new QHBoxLayout;
+  auto* icon = new QLabel(parent);
+  icon->setPixmap(QPixmap(QStringLiteral(":/icons/zentrel.png"))
+                      .scaled(64, 64, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+  row->addWidget(icon, 0, Qt::AlignTop);
+  auto* names = new QVBoxLayout;
+  auto* title =
+      new QLabel(withVersion ? QLatin1String(app::kProgramName)
+                             : QStringLiteral("%1 %2").arg(QLatin1String(app::kProgramName),
+                                                           QLatin1String(app::kProgramVersion)),
+                 parent);
   title->setObjectName(QStringLiteral("ProgramTitle"));
   QFont font = title->font();
   font.setPointSizeF(font.pointSizeF() * 1.6);
   font.setBold(true);
   title->setFont(font);
-  return title;
+  names->addWidget(title);
+  if (withVersion) {
+    auto* version = new QLabel(QLatin1String(app::kProgramVersion), parent);
+    version->setObjectName(QStringLiteral("ProgramVersion"));
+    names->addWidget(version);
+  }
+  names->addStretch();
+  row->addLayout(names, 1);
+  return row;
 }
 
 QLabel* Description(QWidget* parent) {
@@ -46,10 +65,7 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("frmAbout"));
   setWindowTitle(QStringLiteral("About %1").arg(QLatin1String(app::kProgramName)));
   auto* layout = new QVBoxLayout(this);
-  layout->addWidget(Heading(this));
-  auto* version = new QLabel(QLatin1String(app::kProgramVersion), this);
-  version->setObjectName(QStringLiteral("ProgramVersion"));
-  layout->addWidget(version);
+  layout->addLayout(Heading(this, true));
   layout->addWidget(Description(this));
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -60,7 +76,7 @@ Frm_SplashScreen::Frm_SplashScreen(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("Frm_SplashScreen"));
   setWindowTitle(QLatin1String(app::kProgramName));
   auto* layout = new QVBoxLayout(this);
-  layout->addWidget(Heading(this));
+  layout->addLayout(Heading(this, false));
   layout->addWidget(Description(this));
   auto* start = new QPushButton(QStringLiteral("Lets Start"), this);
   start->setObjectName(QStringLiteral("Frm_SplashScreen_Start"));

@@ -371,6 +371,12 @@ TEST_F(MainWindowTest, HelpOpensTheDocsAndQuitEndsTheProgram) {
   EXPECT_FALSE(QIcon(QStringLiteral(":/icons/zentrel.png")).isNull());
   Trigger("mnu_Help_About");
   EXPECT_TRUE(W<QDialog>("frmAbout")->isVisible());
+  EXPECT_EQ(W<QLabel>("ProgramVersion")->text(), QStringLiteral("V1.62"));
+  window->ShowSplash();
+  auto* start = W<QAbstractButton>("Frm_SplashScreen_Start");
+  EXPECT_EQ(start->text(), QStringLiteral("Lets Start"));
+  start->click();
+  EXPECT_FALSE(W<QDialog>("Frm_SplashScreen")->isVisible());
 
   Trigger("mnu_File_Quit");
   EXPECT_FALSE(window->isVisible());
