@@ -54,19 +54,6 @@ TEST(Resort_And_Removed_Doubles_From_Filter_Dictionary, CleansSortsAndDropsRepea
   EXPECT_EQ(d.Rebuild("x1,X1"), Words{"x1"});
 }
 
-TEST(Resort_And_Removed_Doubles_From_Filter_Dictionary, GrowsPastItsCapacity) {
-  Dictionary d;
-  d.s.FilterCapacity = 1000;
-  std::string box;
-  for (int i = 0; i < 1200; ++i)
-    box += "w" + std::to_string(10000 + i) + "\r\n";
-  Words words = d.Rebuild(box);
-  ASSERT_EQ(words.size(), 1200u);
-  EXPECT_EQ(d.s.FilterCapacity, 1500);
-  EXPECT_EQ(words.front(), "w10000");
-  EXPECT_EQ(words.back(), "w11199");
-}
-
 TEST(Load_Word_Filter_Dictionary, ReadsListItemsAndSavesTheBox) {
   Dictionary d;
   testing::TempFolder dir;
