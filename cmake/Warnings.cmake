@@ -9,7 +9,11 @@ if(ZENTREL_WERROR)
 endif()
 
 add_library(zentrel_sanitize INTERFACE)
-if(ZENTREL_SANITIZE)
+if(ZENTREL_WITH_FUZZ)
+  target_compile_options(zentrel_sanitize INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+                                                    -fno-omit-frame-pointer)
+  target_link_options(zentrel_sanitize INTERFACE -fsanitize=address,undefined)
+elseif(ZENTREL_SANITIZE)
   target_compile_options(zentrel_sanitize INTERFACE -fsanitize=address,undefined
                                                     -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(zentrel_sanitize INTERFACE -fsanitize=address,undefined)

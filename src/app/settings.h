@@ -10,6 +10,8 @@ namespace zentrel::app {
 
 struct ShellFields {
   std::string ProgramFolder;
+  // A preferences file read instead of the program folder's (the command line's --prefs).
+  std::string PreferencesFileOverride;
   std::string CurrentFileName;
   std::string DefaultFileExtension = ".htm";
   int32_t DefaultFileTypeIndex = 2;

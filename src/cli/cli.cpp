@@ -1,10 +1,268 @@
 #include "cli/cli.h"
 
+#include <algorithm>
+#include <optional>
+
+#include "analysis/analysis_driver.h"
+#include "analysis/report_export.h"
+#include "app/app_state.h"
+#include "app/page_loading.h"
+#include "app/preferences.h"
+#include "app/startup.h"
+#include "base/file_io.h"
+#include "base/run_time_error.h"
+#include "cli/cli_platform.h"
+#include "cli/json_output.h"
+#include "decode/decoder.h"
+#include "decode/meta_tag_table.h"
+#include "decode/section_validation.h"
+#include "metatags/meta_tag_panel.h"
+#include "metatags/page_encoder.h"
+#include "metatags/tag_list_file.h"
+#include "words/filter_dictionary.h"
+
 namespace zentrel::cli {
 
-int Run_Cli(const std::vector<std::string>&, std::ostream&, std::ostream& err, const std::string&) {
-  err << "zentrel-cli: not built yet\n";
-  return 2;
+namespace {
+
+constexpr int kOk = 0;
+constexpr int kPageFailed = 1;
+constexpr int kUsage = 2;
+
+constexpr const char* kUsageText =
+    "usage: zentrel-cli report   [OPTIONS] PAGE...\n"
+    "       zentrel-cli analyse  [OPTIONS] PAGE...\n"
+    "       zentrel-cli validate [OPTIONS] PAGE...\n"
+    "       zentrel-cli rebuild  [OPTIONS] PAGE -o OUT [--tags FILE.tag] [--set NAME=VALUE]..."
+    " [--force]\n"
+    "\n"
+    "  report    the page report of each PAGE, as the \"Page Report\" tab shows it\n"
+    "  analyse   one JSON object per PAGE with the report, the result boxes and the fields\n"
+    "  validate  \"PAGE: OK\" or \"PAGE: \" and the section error; exit 1 when any page fails\n"
+    "  rebuild   analyse PAGE, mark every META tag field, load FILE.tag, apply each --set,\n"
+    "            and save to OUT; a section error is refused unless --force\n"
+    "\n"
+    "OPTIONS\n"
+    "  --prefs FILE          read this preferences file instead of the program folder's\n"
+    "                        Zentrel_Pref.txt (a missing file means all defaults); never written\n"
+    "  --dictionary FILE     use FILE as the default filter dictionary\n"
+    "  --keywords TEXT       the \"Additional Keywords\" text\n"
+    "  --include-word-count  tick \"Include Word Count\"\n"
+    "  --show-raw-body       tick \"Show Raw Body\"\n"
+    "\n"
+    "Exit status: 0 success; 1 a page failed; 2 bad usage or a file that cannot be read.\n";
+
+struct Options {
+  std::string command;
+  std::vector<std::string> pages;
+  std::optional<std::string> prefs, dictionary, keywords, out, tags;
+  std::vector<std::pair<std::string, std::string>> sets;
+  bool includeWordCount = false, showRawBody = false, force = false, help = false;
+};
+
+class UsageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+Options Parse(const std::vector<std::string>& args) {
+  Options o;
+  auto value = [&](size_t& i) -> std::string {
+    if (i + 1 >= args.size())
+      throw UsageError(args[i] + " needs a value");
+    return args[++i];
+  };
+  for (size_t i = 0; i < args.size(); ++i) {
+    const std::string& a = args[i];
+    if (a == "--help" || a == "-h") {
+      o.help = true;
+    } else if (a == "--prefs") {
+      o.prefs = value(i);
+    } else if (a == "--dictionary") {
+      o.dictionary = value(i);
+    } else if (a == "--keywords") {
+      o.keywords = value(i);
+    } else if (a == "--include-word-count") {
+      o.includeWordCount = true;
+    } else if (a == "--show-raw-body") {
+      o.showRawBody = true;
+    } else if (a == "-o") {
+      o.out = value(i);
+    } else if (a == "--tags") {
+      o.tags = value(i);
+    } else if (a == "--force") {
+      o.force = true;
+    } else if (a == "--set") {
+      std::string pair = value(i);
+      size_t eq = pair.find('=');
+      if (eq == std::string::npos)
+        throw UsageError("--set needs NAME=VALUE, not " + pair);
+      o.sets.emplace_back(pair.substr(0, eq), pair.substr(eq + 1));
+    } else if (a.size() > 1 && a[0] == '-') {
+      throw UsageError("unknown option " + a);
+    } else if (o.command.empty()) {
+      o.command = a;
+    } else {
+      o.pages.push_back(a);
+    }
+  }
+  return o;
+}
+
+void Validate_Options(const Options& o) {
+  static const std::vector<std::string> commands = {"report", "analyse", "validate", "rebuild"};
+  if (std::find(commands.begin(), commands.end(), o.command) == commands.end()) {
+    throw UsageError(o.command.empty() ? "no command given" : "unknown command " + o.command);
+  }
+  if (o.pages.empty())
+    throw UsageError("no PAGE given");
+  const bool rebuild = o.command == "rebuild";
+  if (rebuild && (o.pages.size() != 1 || !o.out))
+    throw UsageError("rebuild takes one PAGE and -o OUT");
+  if (!rebuild && (o.out || o.tags || !o.sets.empty() || o.force)) {
+    throw UsageError("-o, --tags, --set and --force belong to rebuild");
+  }
+}
+
+// A file the command line must be able to read; a clear message otherwise.
+void Require_Readable(const std::string& path, const std::string& what) {
+  try {
+    file_io::ReadWholeFile(path);
+  } catch (const file_io::FileError& e) {
+    throw UsageError(what + ": " + e.what());
+  }
+}
+
+// A fresh session per page, brought up as the window would, with the options applied.
+class Session {
+ public:
+  Session(const Options& o, std::ostream& err, const std::string& folder)
+      : platform_(err, folder, o.force), state_(platform_) {
+    state_.PreferencesFileOverride = o.prefs.value_or("");
+    app::Form_Load(state_);
+    if (o.dictionary)
+      words::Load_Default_Word_Filters(state_, *o.dictionary);
+    if (o.keywords)
+      analysis::Set_Users_METATAGS_TextBox(state_, *o.keywords);
+    if (o.includeWordCount) {
+      state_.Form.PageReport_Export_WordCount_CheckBox = 1;
+      analysis::PageReport_Export_WordCount_CheckBox_Click(state_);
+    }
+    if (o.showRawBody) {
+      state_.Form.ViewBody_ShowRAWBODY_CHeckBox = 1;
+      analysis::ViewBody_ShowRAWBODY_CHeckBox_Click(state_);
+    }
+  }
+
+  AppState& state() { return state_; }
+
+  // Loads as "Load Page" does (recent list untouched); false when the file cannot be read.
+  bool Load(const std::string& page) {
+    int before = platform_.messagesShown();
+    state_.DocumentLength = app::Load_File_To_Cache(state_, page, 1);
+    return platform_.messagesShown() == before;
+  }
+
+ private:
+  CliPlatform platform_;
+  AppState state_;
+};
+
+// Loads and analyses one page; the run-time error that ended the analysis, if any.
+std::optional<std::string> Analyse(Session& session, const std::string& page) {
+  AppState& s = session.state();
+  try {
+    if (s.DocumentLength != 0)
+      analysis::Meta_Tag_KeyWord_Scan(s, page);
+  } catch (const RunTimeError& e) {
+    return std::string(e.what());
+  }
+  return std::nullopt;
+}
+
+int Run_Page(const Options& o, const std::string& page, std::ostream& out, std::ostream& err,
+             const std::string& folder) {
+  Session session(o, err, folder);
+  AppState& s = session.state();
+  if (!session.Load(page))
+    return kUsage;
+  if (o.command == "validate") {
+    decode::HTML_ReScan_Document(s);
+    std::string problem = decode::HTML_VALIDATE_Document_Sections(s);
+    out << page << ": " << (problem.empty() ? "OK" : problem) << "\n";
+    return problem.empty() ? kOk : kPageFailed;
+  }
+  std::optional<std::string> error = Analyse(session, page);
+  if (error)
+    err << page << ": " << *error << "\n";
+  if (o.command == "report")
+    out << s.Form.ReportTextBox;
+  if (o.command == "analyse")
+    Write_Analysis_Json(out, s, page, error);
+  return error ? kPageFailed : kOk;
+}
+
+int Run_Rebuild(const Options& o, std::ostream& err, const std::string& folder) {
+  const std::string& page = o.pages.front();
+  Session session(o, err, folder);
+  AppState& s = session.state();
+  if (!session.Load(page))
+    return kUsage;
+  try {
+    if (s.DocumentLength != 0)
+      analysis::Meta_Tag_KeyWord_Scan(s, page);
+    metatags::MetaTagFunctions_MArk_ALL_Checkboxes_Click(s);
+    if (o.tags)
+      metatags::Apply_MetaTag_List_Text(s, file_io::ReadWholeFile(*o.tags));
+    for (const auto& [name, value] : o.sets) {
+      int16_t i = decode::Find_MetaTag_Index(s, name);
+      if (i < 0 || i >= app::kMetaTagFieldCount) {
+        err << "zentrel-cli: --set: unknown META tag name " << name << "\n";
+        return kUsage;
+      }
+      metatags::Set_MetaTag_TextBox(s, i, value);
+    }
+    if (!metatags::HTML_ENCODE_Document(s, *o.out, 0)) {
+      err << page << ": nothing written\n";
+      return kPageFailed;
+    }
+  } catch (const RunTimeError& e) {
+    err << page << ": " << e.what() << "\n";
+    return kPageFailed;
+  } catch (const file_io::FileError& e) {
+    err << page << ": " << e.what() << "\n";
+    return kPageFailed;
+  }
+  return kOk;
+}
+
+}  // namespace
+
+int Run_Cli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err,
+            const std::string& executableFolder) {
+  Options o;
+  try {
+    o = Parse(args);
+    if (o.help) {
+      out << kUsageText;
+      return kOk;
+    }
+    Validate_Options(o);
+    if (o.dictionary)
+      Require_Readable(*o.dictionary, "--dictionary");
+    if (o.tags)
+      Require_Readable(*o.tags, "--tags");
+  } catch (const UsageError& e) {
+    err << "zentrel-cli: " << e.what() << "\n" << kUsageText;
+    return kUsage;
+  }
+  if (o.command == "rebuild")
+    return Run_Rebuild(o, err, executableFolder);
+  int status = kOk;
+  for (const std::string& page : o.pages) {
+    status = std::max(status, Run_Page(o, page, out, err, executableFolder));
+  }
+  return status;
 }
 
 }  // namespace zentrel::cli

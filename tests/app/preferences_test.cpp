@@ -135,7 +135,8 @@ TEST(LoadPreferencesFile, RecentPagesComeBackNewestFirstAndAtMostFive) {
   again.ProgramFolder = p.s.ProgramFolder;
   LoadPreferencesFile(again);
   EXPECT_EQ(again.RecentFileCount, 5);
-  EXPECT_EQ(again.RecentFiles, p.s.RecentFiles);
+  for (int i = 0; i < 5; ++i)
+    EXPECT_EQ(again.RecentFiles[i], p.s.RecentFiles[i]);
 }
 
 TEST(LoadPreferencesFile, AValueTooLargeSkipsItsLineWithOneMessage) {

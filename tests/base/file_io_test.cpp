@@ -1,1 +1,160 @@
+#include "base/file_io.h"
+
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+
+#include "test_files.h"
+
+namespace zentrel::file_io {
+
+namespace fs = std::filesystem;
+using testing::ReadFile;
+using testing::TempFolder;
+using testing::WriteFile;
+
+namespace {
+
+// Fails one chosen system call with a chosen errno.
+class FailingFileSystem : public FileSystem {
+ public:
+  enum Step { kMakeTemp, kWrite, kShortWrite, kFsync, kClose, kRename };
+  FailingFileSystem(Step step, int err) : step_(step), err_(err) {}
+  int MakeTemp(std::string& t) override { return Fail(kMakeTemp) ? -1 : FileSystem::MakeTemp(t); }
+  ssize_t Write(int fd, const char* d, size_t n) override {
+    if (step_ == kShortWrite) {  // one byte goes through, then the disk is full
+      if (wrote_)
+        return Fail(kShortWrite) ? -1 : -1;
+      wrote_ = true;
+      return FileSystem::Write(fd, d, 1);
+    }
+    return Fail(kWrite) ? -1 : FileSystem::Write(fd, d, n);
+  }
+  int Fsync(int fd) override { return Fail(kFsync) ? -1 : FileSystem::Fsync(fd); }
+  int Close(int fd) override {
+    if (Fail(kClose)) {
+      FileSystem::Close(fd);
+      return -1;
+    }
+    return FileSystem::Close(fd);
+  }
+  int Rename(const std::string& a, const std::string& b) override {
+    return Fail(kRename) ? -1 : FileSystem::Rename(a, b);
+  }
+
+ private:
+  bool Fail(Step s) {
+    if (s != step_)
+      return false;
+    errno = err_;
+    return true;
+  }
+  Step step_;
+  int err_;
+  bool wrote_ = false;
+};
+
+size_t FilesIn(const fs::path& dir) {
+  return static_cast<size_t>(std::distance(fs::directory_iterator(dir), fs::directory_iterator()));
+}
+
+}  // namespace
+
+TEST(WriteFileAtomic, ReplacesTheFileKeepingItsPermissions) {
+  TempFolder dir;
+  std::string page = dir.File("page.html");
+  WriteFile(page, "old");
+  ::chmod(page.c_str(), 0640);
+  WriteFileAtomic(page, "new bytes");
+  EXPECT_EQ(ReadFile(page), "new bytes");
+  struct stat st {};
+  ::stat(page.c_str(), &st);
+  EXPECT_EQ(st.st_mode & 0777, 0640u);
+  EXPECT_EQ(FilesIn(dir.path()), 1u);
+}
+
+TEST(WriteFileAtomic, EveryFailingStepLeavesTheOldFileAndNoTemporary) {
+  struct Case {
+    FailingFileSystem::Step step;
+    int err;
+    const char* operation;
+  };
+  const Case cases[] = {{FailingFileSystem::kMakeTemp, EACCES, "creating a temporary file"},
+                        {FailingFileSystem::kWrite, ENOSPC, "writing"},
+                        {FailingFileSystem::kWrite, EIO, "writing"},
+                        {FailingFileSystem::kShortWrite, ENOSPC, "writing"},
+                        {FailingFileSystem::kFsync, EIO, "flushing"},
+                        {FailingFileSystem::kClose, EIO, "closing"},
+                        {FailingFileSystem::kRename, EXDEV, "renaming"}};
+  for (const Case& c : cases) {
+    TempFolder dir;
+    std::string page = dir.File("page.html");
+    WriteFile(page, "the author's page");
+    FailingFileSystem failing(c.step, c.err);
+    try {
+      WriteFileAtomic(page, "replacement", failing);
+      ADD_FAILURE() << "no error for step " << c.step;
+    } catch (const FileError& e) {
+      std::string message = e.what();
+      EXPECT_NE(message.find(page), std::string::npos) << message;
+      EXPECT_NE(message.find(c.operation), std::string::npos) << message;
+      EXPECT_NE(message.find(std::strerror(c.err)), std::string::npos) << message;
+    }
+    EXPECT_EQ(ReadFile(page), "the author's page");
+    EXPECT_EQ(FilesIn(dir.path()), 1u) << "a temporary file was left behind";
+  }
+}
+
+TEST(WriteFileAtomic, SymbolicLinkIsKeptAndFolderTargetRefused) {
+  TempFolder dir;
+  std::string real = dir.File("real.html");
+  std::string link = dir.File("link.html");
+  WriteFile(real, "old");
+  fs::create_symlink(real, link);
+  WriteFileAtomic(link, "through the link");
+  EXPECT_TRUE(fs::is_symlink(link));
+  EXPECT_EQ(ReadFile(real), "through the link");
+
+  fs::create_directory(dir.File("folder"));
+  EXPECT_THROW(WriteFileAtomic(dir.File("folder"), "x"), FileError);
+}
+
+TEST(WriteFileAtomic, ReadOnlyFolderFailsCleanly) {
+  if (::geteuid() == 0)
+    GTEST_SKIP() << "root ignores folder permissions";
+  TempFolder dir;
+  std::string page = dir.File("page.html");
+  WriteFile(page, "old");
+  fs::permissions(dir.path(), fs::perms::owner_read | fs::perms::owner_exec);
+  EXPECT_THROW(WriteFileAtomic(page, "new"), FileError);
+  fs::permissions(dir.path(), fs::perms::owner_all);
+  EXPECT_EQ(ReadFile(page), "old");
+}
+
+TEST(ReadWholeFile, ClearMessagesForMissingFilesAndFolders) {
+  TempFolder dir;
+  EXPECT_FALSE(FileExists(dir.File("missing")));
+  EXPECT_TRUE(FileExists(dir.path().string()));  // a folder has attributes too
+  try {
+    ReadWholeFile(dir.File("missing"));
+    FAIL();
+  } catch (const FileError& e) {
+    EXPECT_NE(std::string(e.what()).find("No such file"), std::string::npos);
+  }
+  EXPECT_THROW(ReadWholeFile(dir.path().string()), FileError);
+}
+
+TEST(ReadListItems, FollowsCommaDelimitedInput) {
+  using V = std::vector<std::string>;
+  EXPECT_EQ(ReadListItems("a, b\r\n  c d \nx"), (V{"a", "b", "c d", "x"}));
+  EXPECT_EQ(ReadListItems("\"quoted, with comma\" rest,next\r\n"),
+            (V{"quoted, with comma", "next"}));
+  EXPECT_EQ(ReadListItems("FileLoaded:C:\\a,b.html\r\n"), (V{"FileLoaded:C:\\a", "b.html"}));
+  EXPECT_EQ(ReadListItems(""), V{});
+}
+
+}  // namespace zentrel::file_io

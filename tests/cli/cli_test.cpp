@@ -1,1 +1,141 @@
+#include "cli/cli.h"
+
 #include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <sstream>
+
+#include "test_files.h"
+
+namespace zentrel::cli {
+
+namespace fs = std::filesystem;
+using testing::ReadFile;
+using testing::TempFolder;
+using testing::WriteFile;
+
+namespace {
+
+// The tests run in the program folder of the build, where dictionary/ lies.
+struct Result {
+  int status;
+  std::string out, err;
+};
+
+Result Run(std::vector<std::string> args) {
+  std::ostringstream out, err;
+  int status = Run_Cli(args, out, err, fs::current_path().string());
+  return {status, out.str(), err.str()};
+}
+
+const char* kSanePage =
+    "<html>\r\n<head>\r\n<title>Red Shoes</title>\r\n"
+    "<meta name=\"keywords\" content=\"shoes, red shoes\">\r\n</head>\r\n"
+    "<body>\r\nRed shoes and more red shoes for walking.\r\n</body>\r\n</html>\r\n";
+
+}  // namespace
+
+TEST(Cli, BadUsageExitsTwoWithAMessage) {
+  EXPECT_EQ(Run({}).status, 2);
+  EXPECT_EQ(Run({"report"}).status, 2);
+  EXPECT_EQ(Run({"frobnicate", "x.html"}).status, 2);
+  EXPECT_EQ(Run({"report", "--bogus", "x.html"}).status, 2);
+  EXPECT_EQ(Run({"rebuild", "x.html"}).status, 2);  // no -o
+  EXPECT_EQ(Run({"report", "--force", "x.html"}).status, 2);
+  Result help = Run({"--help"});
+  EXPECT_EQ(help.status, 0);
+  EXPECT_NE(help.out.find("zentrel-cli rebuild"), std::string::npos);
+  Result missing = Run({"report", "/nonexistent/page.html"});
+  EXPECT_EQ(missing.status, 2);
+  EXPECT_NE(missing.err.find("/nonexistent/page.html"), std::string::npos);
+}
+
+TEST(Cli, ValidatePrintsOkOrTheSectionMessage) {
+  TempFolder dir;
+  WriteFile(dir.File("good.html"), kSanePage);
+  WriteFile(dir.File("bad.html"), "<head></head><body></body></html>");
+  Result r = Run({"validate", dir.File("good.html"), dir.File("bad.html")});
+  EXPECT_EQ(r.status, 1);
+  EXPECT_EQ(r.out, dir.File("good.html") + ": OK\n" + dir.File("bad.html") +
+                       ": Page Is Missing Opening <HTML> TAG\n");
+}
+
+TEST(Cli, ReportEqualsEveryGoldenReport) {
+  int compared = 0;
+  for (const auto& entry : fs::directory_iterator(testing::TestDataPath(""))) {
+    if (entry.path().extension() != ".report")
+      continue;
+    fs::path page = entry.path();
+    page.replace_extension(".html");
+    if (!fs::exists(page))
+      continue;
+    Result r = Run({"report", page.string()});
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_EQ(r.out, ReadFile(entry.path())) << page;
+    ++compared;
+  }
+  EXPECT_GE(compared, 2) << "the golden reports are missing from tests/data";
+}
+
+TEST(Cli, AnalyseWritesOneJsonLinePerPageAndReportsRunTimeErrors) {
+  TempFolder dir;
+  WriteFile(dir.File("good.html"), kSanePage);
+  std::string flood = "<html><head></head><body>";
+  for (int i = 0; i < 1001; ++i)
+    flood += "widget ";
+  WriteFile(dir.File("flood.html"), flood + "</body></html>");
+  Result r =
+      Run({"analyse", "--keywords", "walking", dir.File("flood.html"), dir.File("good.html")});
+  EXPECT_EQ(r.status, 1);
+  std::istringstream lines(r.out);
+  std::string first, second;
+  std::getline(lines, first);
+  std::getline(lines, second);
+  EXPECT_NE(first.find("\"error\":\"Run-time error '9': Subscript out of range\""),
+            std::string::npos)
+      << first;
+  EXPECT_NE(second.find("\"error\":null"), std::string::npos) << second;
+  EXPECT_NE(second.find("\"title\":\"Red Shoes\""), std::string::npos) << second;
+  EXPECT_NE(second.find("walking"), std::string::npos) << "the additional keyword is analysed";
+  EXPECT_NE(second.find("\"meta_fields\":[\"Red Shoes\","), std::string::npos) << second;
+}
+
+TEST(Cli, RebuildWritesTheFieldsAndRefusesSectionErrorsWithoutForce) {
+  TempFolder dir;
+  WriteFile(dir.File("page.html"), kSanePage);
+  WriteFile(dir.File("set.tag"), "author:Ann&coma& Bo\r\n");
+  Result r = Run({"rebuild", dir.File("page.html"), "-o", dir.File("out.html"), "--tags",
+                  dir.File("set.tag"), "--set", "description=Shoes for all"});
+  ASSERT_EQ(r.status, 0) << r.err;
+  std::string out = ReadFile(dir.File("out.html"));
+  EXPECT_NE(out.find("<META content=\"Shoes for all\" name=\"description\">\r\n"),
+            std::string::npos);
+  EXPECT_NE(out.find("<META content=\"Ann, Bo\" name=\"author\">\r\n"), std::string::npos);
+  EXPECT_EQ(ReadFile(dir.File("page.html")), kSanePage) << "the page itself is untouched";
+
+  WriteFile(dir.File("bad.html"), "<p>no sections</p>");
+  Result refused = Run({"rebuild", dir.File("bad.html"), "-o", dir.File("bad-out.html")});
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_NE(refused.err.find("WARNING - Page Is Missing Opening <HTML> TAG - IGNORE this ERROR "
+                             "and SAVE ANYWAY ? "),
+            std::string::npos);
+  EXPECT_FALSE(fs::exists(dir.File("bad-out.html")));
+  EXPECT_EQ(
+      Run({"rebuild", dir.File("bad.html"), "-o", dir.File("bad-out.html"), "--force"}).status, 0);
+  EXPECT_TRUE(fs::exists(dir.File("bad-out.html")));
+  EXPECT_EQ(
+      Run({"rebuild", dir.File("page.html"), "-o", dir.File("x.html"), "--set", "title=x"}).status,
+      2);
+}
+
+TEST(Cli, TheRealBinaryRuns) {
+  TempFolder dir;
+  WriteFile(dir.File("good.html"), kSanePage);
+  std::string command = (fs::current_path() / "zentrel-cli").string() + " validate " +
+                        dir.File("good.html") + " > " + dir.File("out.txt");
+  ASSERT_EQ(std::system(command.c_str()), 0);
+  EXPECT_EQ(ReadFile(dir.File("out.txt")), dir.File("good.html") + ": OK\n");
+}
+
+}  // namespace zentrel::cli

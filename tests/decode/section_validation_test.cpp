@@ -1,1 +1,95 @@
+#include "decode/section_validation.h"
+
 #include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "decode/decoder.h"
+#include "decode_fixture.h"
+#include "document/document_cache.h"
+#include "test_files.h"
+
+namespace zentrel::decode {
+namespace {
+
+using testing::DecodeState;
+
+std::string Validate(DecodeState& d, const std::string& page) {
+  d.Put(page);
+  HTML_ReScan_Document(d.s);
+  return HTML_VALIDATE_Document_Sections(d.s);
+}
+
+// Each test page fails exactly the check its line names; the sane page passes.
+TEST(HTML_VALIDATE_Document_Sections, TestPagesGiveTheirMessages) {
+  DecodeState d;
+  std::istringstream lines(testing::ReadTestData("decode_invalid_messages.txt"));
+  std::string line;
+  int pages = 0;
+  while (std::getline(lines, line)) {
+    if (!line.empty() && line.back() == '\r')
+      line.pop_back();
+    const size_t colon = line.find(": ");
+    ASSERT_NE(colon, std::string::npos) << line;
+    const std::string name = line.substr(0, colon);
+    d.s.DocumentLength = document::DO_LOAD_File_TO_CACHE(d.s, testing::TestDataPath(name));
+    HTML_ReScan_Document(d.s);
+    EXPECT_EQ(HTML_VALIDATE_Document_Sections(d.s), line.substr(colon + 2)) << name;
+    ++pages;
+  }
+  EXPECT_EQ(pages, 17);
+  d.s.DocumentLength =
+      document::DO_LOAD_File_TO_CACHE(d.s, testing::TestDataPath("decode_valid.html"));
+  HTML_ReScan_Document(d.s);
+  EXPECT_EQ(HTML_VALIDATE_Document_Sections(d.s), "");
+}
+
+TEST(HTML_VALIDATE_Document_Sections, FirstFailingCheckWinsAndComparisonsAreStrict) {
+  DecodeState d;
+  EXPECT_EQ(Validate(d, "plain text only"), "Page Is Missing Opening <HTML> TAG");
+  EXPECT_EQ(Validate(d, "</body></head><body><html>"), "Page Is Missing Closing </HTML> TAG");
+  // Both order faults: the head one comes first, with its crossed message.
+  EXPECT_EQ(Validate(d, "<html></head><head></body><body></html>"),
+            "Closing </BODY> TAG is BEFORE the opening <BODY> tag");
+  // A body that starts right where the head closes is fine.
+  AppState& s = d.s;
+  s.HtmlStart = 0, s.HeadStart = 6, s.HeadEnd = 20, s.BodyStart = 20, s.BodyEnd = 40,
+  s.HtmlEnd = 50;
+  EXPECT_EQ(HTML_VALIDATE_Document_Sections(s), "");
+  // No page can reach the last check (its positions would have to coincide).
+  s.HeadStart = s.BodyStart = 10;
+  s.HeadEnd = 30;
+  EXPECT_EQ(HTML_VALIDATE_Document_Sections(s),
+            "HEAD Tag </HEAD> NOT allowed Between <BODY> & </BODY> tags");
+}
+
+TEST(Html_Get_Starting_HeaderByte_For_Tag_Encoding, HeadThenHtmlThenStartOfPage) {
+  DecodeState d;
+  AppState& s = d.s;
+  s.DocumentLength = 100;
+  s.HeadStart = 12, s.HtmlStart = 3, s.HeadEnd = 40;
+  EXPECT_EQ(Html_Get_Starting_HeaderByte_For_Tag_Encoding(s), 17);
+  EXPECT_EQ(Html_Get_Ending_HeaderByte_For_Tag_Encoding(s), 40);
+  s.HeadStart = -1, s.HeadEnd = -1;
+  EXPECT_EQ(Html_Get_Starting_HeaderByte_For_Tag_Encoding(s), 8);
+  s.HtmlStart = -1;
+  EXPECT_EQ(Html_Get_Starting_HeaderByte_For_Tag_Encoding(s), 0);
+  EXPECT_EQ(Html_Get_Ending_HeaderByte_For_Tag_Encoding(s), 101);
+}
+
+TEST(Html_Copy_Section_To_Temp, CopiesNonZeroBytesInclusiveOnlyWhenFromBeforeTo) {
+  DecodeState d;
+  AppState& s = d.s;
+  d.Put("<head><meta x>\r\n<title>");
+  document::Html_Clear_Cache_Section(s, 6, 14);
+  s.RebuildBytes.assign(30, '.');
+  EXPECT_EQ(Html_Copy_Section_To_Temp(s, 0, 22, 2), 2 + 6 + 7);
+  EXPECT_EQ(std::string(s.RebuildBytes.begin(), s.RebuildBytes.begin() + 16), "..<head><title>.");
+  EXPECT_EQ(Html_Copy_Section_To_Temp(s, 7, 12, 5), 5);  // all zeros
+  EXPECT_EQ(Html_Copy_Section_To_Temp(s, 3, 3, 9), 9);   // one byte is not copied
+  s.RebuildBytes.assign(3, '.');
+  EXPECT_THROW(Html_Copy_Section_To_Temp(s, 0, 5, 0), RunTimeError);
+}
+
+}  // namespace
+}  // namespace zentrel::decode

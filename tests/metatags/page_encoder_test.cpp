@@ -126,8 +126,9 @@ TEST(HTML_ENCODE_Document, BlockGoesInsideHtmlWithoutHeadAndFirstWithNeither) {
             block + "Hello\r\nWorld\r\nJust some plain text without any tags at all.\r\n");
 }
 
-TEST(HTML_ENCODE_Document, NoToTheWarningChangesNothing) {
+TEST(HTML_ENCODE_Document, NoToTheWarningOrNoNameChangesNothing) {
   EncoderTestPage page;
+  EXPECT_FALSE(HTML_ENCODE_Document(page.s, "Testing", 1));  // no document yet
   std::string path = page.Load("encoder_headless.html");
   Set_MetaTag_TextBox(page.s, 1, "desc");
   const auto bytes = page.s.DocumentBytes;
@@ -136,18 +137,11 @@ TEST(HTML_ENCODE_Document, NoToTheWarningChangesNothing) {
   EXPECT_FALSE(HTML_ENCODE_Document(page.s, page.folder.File("out.html"), 0));
   page.platform.AnswerNo();
   EXPECT_FALSE(HTML_ENCODE_Document(page.s, "Testing", 1));
+  EXPECT_FALSE(HTML_ENCODE_Document(page.s, "", 0));  // asks nothing
   EXPECT_EQ(page.s.DocumentBytes, bytes);
   EXPECT_EQ(page.s.Form.MetaTag_TextBox, fields);
   EXPECT_EQ(page.FolderEntries(), std::set<std::string>{"encoder_headless.html"});
   EXPECT_EQ(ReadFile(path), ReadTestData("encoder_headless.html"));
-}
-
-TEST(HTML_ENCODE_Document, EmptyNameOrDocumentDoesNothing) {
-  EncoderTestPage page;
-  EXPECT_FALSE(HTML_ENCODE_Document(page.s, "Testing", 1));  // no document
-  page.Load("encoder_headless.html");
-  EXPECT_FALSE(HTML_ENCODE_Document(page.s, "", 0));  // no question asked either
-  EXPECT_EQ(page.FolderEntries(), std::set<std::string>{"encoder_headless.html"});
 }
 
 // A header block longer than the room of twice the page is a run-time error; the cache, its

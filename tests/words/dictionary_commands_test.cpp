@@ -205,7 +205,7 @@ TEST(Prefs_CheckBoxes, EachClickCopiesItsBoxIntoItsSetting) {
   };
   FakePlatform platform;
   AppState s(platform);
-  for (int16_t value : {1, 0}) {
+  for (int16_t value : {int16_t{1}, int16_t{0}}) {
     for (const Pair& pair : pairs) {
       s.Form.*pair.Box = value;
       ASSERT_TRUE(app::Dispatch(s, pair.Name));

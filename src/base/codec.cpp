@@ -1,0 +1,119 @@
+#include "base/codec.h"
+
+#include <array>
+#include <cstdint>
+
+namespace zentrel::codec {
+
+namespace {
+
+// Code points of bytes 0x80..0x9F; the five bytes that Windows-1252 leaves undefined map to the
+// C1 control of the same value so that they survive the round trip.
+constexpr std::array<char32_t, 32> kHigh = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+char32_t CodePointOf(unsigned char byte) {
+  return (byte >= 0x80 && byte <= 0x9F) ? kHigh[byte - 0x80] : static_cast<char32_t>(byte);
+}
+
+void AppendUtf8(std::string& out, char32_t cp) {
+  if (cp < 0x80) {
+    out += static_cast<char>(cp);
+  } else if (cp < 0x800) {
+    out += static_cast<char>(0xC0 | (cp >> 6));
+    out += static_cast<char>(0x80 | (cp & 0x3F));
+  } else {
+    out += static_cast<char>(0xE0 | (cp >> 12));
+    out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+    out += static_cast<char>(0x80 | (cp & 0x3F));
+  }
+}
+
+// Decodes one UTF-8 sequence at i (input already known to be valid or best effort).
+char32_t NextCodePoint(std::string_view s, size_t& i) {
+  auto b = static_cast<unsigned char>(s[i]);
+  int extra = b >= 0xF0 ? 3 : b >= 0xE0 ? 2 : b >= 0xC0 ? 1 : 0;
+  char32_t cp = extra == 0 ? b : b & (0x3F >> extra);
+  ++i;
+  for (int k = 0; k < extra && i < s.size(); ++k, ++i) {
+    cp = (cp << 6) | (static_cast<unsigned char>(s[i]) & 0x3F);
+  }
+  return cp;
+}
+
+int ByteFor(char32_t cp) {
+  if (cp < 0x80 || (cp >= 0xA0 && cp <= 0xFF))
+    return static_cast<int>(cp);
+  for (size_t k = 0; k < kHigh.size(); ++k) {
+    if (kHigh[k] == cp)
+      return static_cast<int>(0x80 + k);
+  }
+  return -1;
+}
+
+}  // namespace
+
+bool IsValidUtf8(std::string_view s) {
+  size_t i = 0;
+  while (i < s.size()) {
+    auto b = static_cast<unsigned char>(s[i]);
+    int extra;
+    char32_t min;
+    if (b < 0x80) {
+      ++i;
+      continue;
+    } else if (b >= 0xC2 && b <= 0xDF) {
+      extra = 1, min = 0x80;
+    } else if (b >= 0xE0 && b <= 0xEF) {
+      extra = 2, min = 0x800;
+    } else if (b >= 0xF0 && b <= 0xF4) {
+      extra = 3, min = 0x10000;
+    } else {
+      return false;
+    }
+    if (i + static_cast<size_t>(extra) >= s.size())
+      return false;
+    char32_t cp = b & (0x3F >> extra);
+    for (int k = 1; k <= extra; ++k) {
+      auto c = static_cast<unsigned char>(s[i + static_cast<size_t>(k)]);
+      if ((c & 0xC0) != 0x80)
+        return false;
+      cp = (cp << 6) | (c & 0x3F);
+    }
+    if (cp < min || cp > 0x10FFFF || (cp >= 0xD800 && cp <= 0xDFFF))
+      return false;
+    i += static_cast<size_t>(extra) + 1;
+  }
+  return true;
+}
+
+Codec DetectCodec(std::string_view bytes) {
+  return IsValidUtf8(bytes) ? Codec::Utf8 : Codec::Windows1252;
+}
+
+std::string ToUtf8(std::string_view bytes, Codec codec) {
+  if (codec == Codec::Utf8)
+    return std::string(bytes);
+  std::string out;
+  out.reserve(bytes.size() + bytes.size() / 4);
+  for (char c : bytes)
+    AppendUtf8(out, CodePointOf(static_cast<unsigned char>(c)));
+  return out;
+}
+
+std::string FromUtf8(std::string_view utf8, Codec codec) {
+  if (codec == Codec::Utf8)
+    return std::string(utf8);
+  std::string out;
+  out.reserve(utf8.size());
+  size_t i = 0;
+  while (i < utf8.size()) {
+    int byte = ByteFor(NextCodePoint(utf8, i));
+    out += byte < 0 ? '?' : static_cast<char>(byte);
+  }
+  return out;
+}
+
+}  // namespace zentrel::codec

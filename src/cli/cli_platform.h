@@ -1,0 +1,36 @@
+#pragma once
+// The command line's Platform: no dialogs, messages and questions to stderr in the program's
+// own words, WARNING questions answered by --force.
+
+#include <ostream>
+#include <string>
+
+#include "app/platform.h"
+
+namespace zentrel::cli {
+
+class CliPlatform : public app::Platform {
+ public:
+  CliPlatform(std::ostream& err, std::string executableFolder, bool answerYes)
+      : err_(err), folder_(std::move(executableFolder)), answerYes_(answerYes) {}
+
+  bool ShowOpen(app::FileDialog&) override { return false; }
+  bool ShowSave(app::FileDialog&) override { return false; }
+  bool AskYesNo(const std::string& title, const std::string& text) override;
+  void ShowMessage(const std::string& text) override;
+  void BeginBusy() override {}
+  void EndBusy() override {}
+  void DoEvents() override {}
+  void OpenDocument(const std::string&) override {}
+  std::string ExecutableFolder() override { return folder_; }
+
+  int messagesShown() const { return messages_; }
+
+ private:
+  std::ostream& err_;
+  std::string folder_;
+  bool answerYes_;
+  int messages_ = 0;
+};
+
+}  // namespace zentrel::cli

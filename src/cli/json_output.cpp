@@ -1,0 +1,79 @@
+#include "cli/json_output.h"
+
+#include <cstdio>
+
+#include "app/app_state.h"
+#include "base/codec.h"
+
+namespace zentrel::cli {
+
+namespace {
+
+void Quoted(std::ostream& out, const std::string& utf8) {
+  out << '"';
+  for (char c : utf8) {
+    switch (c) {
+      case '"':
+        out << "\\\"";
+        break;
+      case '\\':
+        out << "\\\\";
+        break;
+      case '\n':
+        out << "\\n";
+        break;
+      case '\r':
+        out << "\\r";
+        break;
+      case '\t':
+        out << "\\t";
+        break;
+      default:
+        if (static_cast<unsigned char>(c) < 0x20) {
+          char buf[8];
+          std::snprintf(buf, sizeof buf, "\\u%04x", static_cast<unsigned>(c));
+          out << buf;
+        } else {
+          out << c;
+        }
+    }
+  }
+  out << '"';
+}
+
+}  // namespace
+
+void Write_Analysis_Json(std::ostream& out, const AppState& s, const std::string& page,
+                         const std::optional<std::string>& error) {
+  const codec::Codec c = codec::DetectCodec(s.DocumentText);
+  const app::FormModel& f = s.Form;
+  auto field = [&](const char* key, const std::string& bytes) {
+    out << ",\"" << key << "\":";
+    Quoted(out, codec::ToUtf8(bytes, c));
+  };
+  out << "{\"page\":";
+  Quoted(out, page);
+  out << ",\"error\":";
+  if (error) {
+    Quoted(out, *error);
+  } else {
+    out << "null";
+  }
+  field("report", f.ReportTextBox);
+  field("keyword_matches", f.ScanKeyWords_KeyWordMatches_TextBox);
+  field("keyword_density", f.ScanKeyWords_KeyWordDensity_TextBox);
+  field("body_word_count", f.ScanKeyWords_DocumentWordCount_TextBox);
+  field("view_body", f.ScanKeyWords_StrippedHTMLDocument_TextBox);
+  field("unique_word_count_label", f.Body_Word_Count_Label);
+  field("word_count_label", f.Body_Word_Count_label2);
+  field("title", s.TitleText);
+  out << ",\"meta_fields\":[";
+  for (size_t i = 0; i < f.MetaTag_TextBox.size(); ++i) {
+    if (i > 0)
+      out << ',';
+    Quoted(out, codec::ToUtf8(f.MetaTag_TextBox[i], c));
+  }
+  out << "]}\n";
+}
+
+}  // namespace zentrel::cli
