@@ -18,7 +18,8 @@
 namespace zentrel::analysis {
 namespace {
 
-// The state as start-up leaves it, with a small filter dictionary.
+// The state as start-up leaves it with no preferences file: default settings and the shipped
+// standard filter dictionary.
 struct Analyser {
   testing::FakePlatform platform;
   AppState s{platform};
@@ -43,7 +44,8 @@ struct Analyser {
     s.DecodeIncludeTitleWithBody = 1;
     s.EncodeComaSpaceBetweenKeywords = 1;
     s.FilterCapacity = 1000;
-    s.Form.WordFiltersPage_WordDictionary = "we\r\nthe\r\nour\r\nfor\r\neach\r\nare\r\nand";
+    s.Form.WordFiltersPage_WordDictionary =
+        testing::ReadTestData("../../resources/dictionary/Zentrel_Standard.txt");
     words::Resort_And_Removed_Doubles_From_Filter_Dictionary(s);
   }
 
@@ -106,18 +108,20 @@ TEST(Meta_Tag_KeyWord_Scan, WholeReportsMatchTheHandCheckedFiles) {
   EXPECT_EQ(a.s.Form.MetaTag_TextBox[0], "Red Shoes and Blue Shoes");
   EXPECT_EQ(a.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox.substr(0, 30),
             "Red, Shoes, and, Blue, Shoes, ");
-  EXPECT_EQ(a.s.Form.WordFiltersPage_WordDictionary,
-            "and\r\nare\r\neach\r\nfor\r\nour\r\nthe\r\nwe\r\n");
   EXPECT_EQ(a.platform.busyDepth, 0);
 
-  // Duplicates, a typed filter word, the text scan, low-match removal and the word list.
+  // Duplicates reported and removed.
+  a.File("analysis_widgets.html");
+  EXPECT_EQ(a.s.Form.ReportTextBox, testing::ReadTestData("analysis_widgets.report"));
+
+  // The same page with a typed filter word, the text scan, low-match removal and the word list.
   a.s.KeywordsMatchScanType = 0;
   a.s.UsersKeywordsText = "Sprockets, the ,";
   a.s.ReportExportWordCount = 1;
   a.s.Form.KeyWords_MinKeyWordMatches_Option = 1;
   a.s.Form.KeyWords_MinKeyWordMatches_DropDown.Text = " 1 Match";
   a.File("analysis_widgets.html");
-  EXPECT_EQ(a.s.Form.ReportTextBox, testing::ReadTestData("analysis_widgets.report"));
+  EXPECT_EQ(a.s.Form.ReportTextBox, testing::ReadTestData("analysis_widgets_options.report"));
   EXPECT_EQ(a.s.Form.MetaTag_TextBox[3], "widgets, Widgets, gadget, gizmo");
   EXPECT_EQ(a.s.Form.ScanKeyWords_KeyWordDensity_TextBox,
             " 76.9% - widgets\r\n 76.9% - Widgets\r\n 15.3% - gadget\r\n 7.69% - gizmo\r\n");
@@ -188,7 +192,7 @@ TEST(Meta_Tag_KeyWord_Scan, RunTimeErrorsEndOneAnalysisOnly) {
   Analyser a;
   std::string often;
   for (int i = 0; i < 1001; ++i)
-    often += "often ";
+    often += "widget ";
   EXPECT_THROW(a.Page("<html><body>" + often + "</body></html>"), RunTimeError);
 
   std::string many = "k0";
