@@ -2,13 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <vector>
 
 #include "app/app_state.h"
-#include "base/text.h"
 #include "fake_platform.h"
 #include "test_files.h"
 
@@ -92,20 +90,6 @@ TEST(Build_Filter_Word_Dictionary, StandardAndDefaultDictionaries) {
   EXPECT_EQ(d.s.FilterDictionaryFile, dir.File("mine.txt"));
   EXPECT_EQ(d.s.Form.WordFiltersPage_SelectDefaultWordDictionary_Text, dir.File("mine.txt"));
   EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "gadget\r\nwidget\r\n");
-}
-
-TEST(Build_Filter_Word_Dictionary, ShippedStandardDictionary) {
-  Dictionary d;
-  const std::string bytes =
-      testing::ReadTestData("../../resources/dictionary/Zentrel_Standard.txt");
-  EXPECT_EQ(bytes.find('\n'), bytes.find("\r\n") + 1);
-  EXPECT_EQ(bytes, text::LCase(bytes));
-  Words words = d.Rebuild(bytes);
-  EXPECT_GE(words.size(), 300u);
-  EXPECT_LE(words.size(), 500u);
-  for (const char* common : {"the", "and", "of", "to", "is", "with", "however", "could"}) {
-    EXPECT_NE(std::find(words.begin(), words.end(), common), words.end()) << common;
-  }
 }
 
 }  // namespace
