@@ -112,7 +112,7 @@ TEST(Meta_Tag_KeyWord_Scan, WholeReportsMatchTheHandCheckedFiles) {
 
   // Duplicates reported and removed.
   a.File("analysis_widgets.html");
-  EXPECT_EQ(a.s.Form.ReportTextBox, testing::ReadTestData("analysis_widgets.report"));
+  EXPECT_EQ(a.s.Form.ReportTextBox, testing::ReadTestData("analysis_widgets_defaults.report"));
 
   // The same page with a typed filter word, the text scan, low-match removal and the word list.
   a.s.KeywordsMatchScanType = 0;
@@ -121,7 +121,7 @@ TEST(Meta_Tag_KeyWord_Scan, WholeReportsMatchTheHandCheckedFiles) {
   a.s.Form.KeyWords_MinKeyWordMatches_Option = 1;
   a.s.Form.KeyWords_MinKeyWordMatches_DropDown.Text = " 1 Match";
   a.File("analysis_widgets.html");
-  EXPECT_EQ(a.s.Form.ReportTextBox, testing::ReadTestData("analysis_widgets_options.report"));
+  EXPECT_EQ(a.s.Form.ReportTextBox, testing::ReadTestData("analysis_widgets.report"));
   EXPECT_EQ(a.s.Form.MetaTag_TextBox[3], "widgets, Widgets, gadget, gizmo");
   EXPECT_EQ(a.s.Form.ScanKeyWords_KeyWordDensity_TextBox,
             " 76.9% - widgets\r\n 76.9% - Widgets\r\n 15.3% - gadget\r\n 7.69% - gizmo\r\n");
