@@ -11,8 +11,8 @@
 #include <chrono>
 #include <filesystem>
 #include <functional>
-#include <optional>
 #include <iostream>
+#include <optional>
 
 #include "app/app_state.h"
 #include "app/control_table.h"
@@ -47,7 +47,7 @@ std::string Repeat(const std::string& piece, size_t times) {
 }
 
 std::string Wrap(const std::string& body) {
-  return "<html><head><title>t</title></head><body>" + body + "</body></html>";
+  return "<html><head><title>Test </title></head><body>" + body + "</body></html>";
 }
 
 std::string Distinct_Words(int count) {
@@ -162,7 +162,9 @@ class Hostile : public ::testing::Test {
   }
 
   void Expect_Good_Page_Still_Analyses() {
-    WriteFile(dir_.File("good.html"), Wrap("good words and more good words"));
+    WriteFile(dir_.File("good.html"),
+              "<html><head><title>Shop </title></head><body>good words and more good words"
+              "</body></html>");
     platform_.messages.clear();
     Load(dir_.File("good.html"));
     EXPECT_TRUE(platform_.messages.empty());

@@ -2,13 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <vector>
 
 #include "app/app_state.h"
-#include "base/text.h"
 #include "fake_platform.h"
 #include "test_files.h"
 
@@ -54,19 +52,6 @@ TEST(Resort_And_Removed_Doubles_From_Filter_Dictionary, CleansSortsAndDropsRepea
   EXPECT_EQ(d.Rebuild("x1,X1"), Words{"x1"});
 }
 
-TEST(Resort_And_Removed_Doubles_From_Filter_Dictionary, GrowsPastItsCapacity) {
-  Dictionary d;
-  d.s.FilterCapacity = 1000;
-  std::string box;
-  for (int i = 0; i < 1200; ++i)
-    box += "w" + std::to_string(10000 + i) + "\r\n";
-  Words words = d.Rebuild(box);
-  ASSERT_EQ(words.size(), 1200u);
-  EXPECT_EQ(d.s.FilterCapacity, 1500);
-  EXPECT_EQ(words.front(), "w10000");
-  EXPECT_EQ(words.back(), "w11199");
-}
-
 TEST(Load_Word_Filter_Dictionary, ReadsListItemsAndSavesTheBox) {
   Dictionary d;
   testing::TempFolder dir;
@@ -105,20 +90,6 @@ TEST(Build_Filter_Word_Dictionary, StandardAndDefaultDictionaries) {
   EXPECT_EQ(d.s.FilterDictionaryFile, dir.File("mine.txt"));
   EXPECT_EQ(d.s.Form.WordFiltersPage_SelectDefaultWordDictionary_Text, dir.File("mine.txt"));
   EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "gadget\r\nwidget\r\n");
-}
-
-TEST(Build_Filter_Word_Dictionary, ShippedStandardDictionary) {
-  Dictionary d;
-  const std::string bytes =
-      testing::ReadTestData("../../resources/dictionary/Zentrel_Standard.txt");
-  EXPECT_EQ(bytes.find('\n'), bytes.find("\r\n") + 1);
-  EXPECT_EQ(bytes, text::LCase(bytes));
-  Words words = d.Rebuild(bytes);
-  EXPECT_GE(words.size(), 300u);
-  EXPECT_LE(words.size(), 500u);
-  for (const char* common : {"the", "and", "of", "to", "is", "with", "however", "could"}) {
-    EXPECT_NE(std::find(words.begin(), words.end(), common), words.end()) << common;
-  }
 }
 
 }  // namespace
