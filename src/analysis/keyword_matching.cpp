@@ -1,5 +1,8 @@
 #include "analysis/keyword_matching.h"
 
+#include <algorithm>
+#include <array>
+#include <climits>
 #include <cmath>
 #include <cstdio>
 #include <string_view>
@@ -76,47 +79,101 @@ void ScanText(AppState& s) {
   }
 }
 
+// Word k of the document under the case rule's left side: the stored word, and the empty
+// slot for k = count.
+std::string_view Document_Word(const AppState& s, int32_t k, int32_t count) {
+  return k < count ? s.DocumentWords[static_cast<size_t>(k)] : std::string_view();
+}
+
+// The document word equals the keyword word, which the case rule has already upper-cased
+// when it applies; the document word is folded on the fly rather than copied.
+bool Same_Word(std::string_view word, std::string_view keywordWord, bool upper) {
+  if (word.size() != keywordWord.size())
+    return false;
+  if (!upper)
+    return word == keywordWord;
+  for (size_t c = 0; c < word.size(); ++c) {
+    if (text::UpperAscii(word[c]) != keywordWord[c])
+      return false;
+  }
+  return true;
+}
+
+// One pass over the words for all keywords at once: only a word that could be some keyword's
+// first word (same length and first character) is looked up. The counts are those of the
+// keyword-by-keyword scan.
 void ScanWords(AppState& s) {
   PrepareKeywordWords(s);
   const int32_t count = s.DocumentWordCount;
-  // W holds the words and, one past the last, the empty slot that the scan also visits.
-  std::vector<std::string> w(static_cast<size_t>(count) + 1);
-  std::unordered_map<std::string_view, std::vector<int32_t>> positions;
-  for (int32_t k = 0; k < count; ++k)
-    w[static_cast<size_t>(k)] = UnderCaseRule(s, At(s.DocumentWords, k));
-  for (int32_t k = 0; k <= count; ++k)
-    positions[w[static_cast<size_t>(k)]].push_back(k);
+  const bool upper = s.KeywordsForceSameCase != 0;
+  if (count > 0)
+    CheckIndex(count - 1, 0, static_cast<int64_t>(s.DocumentWords.size()) - 1);
 
+  constexpr size_t kLengths = 64;  // longer words share the last row
+  std::vector<std::array<bool, 256>> maybeFirst(kLengths);
+  std::unordered_map<std::string_view, std::vector<int16_t>> byFirstWord;
   for (int16_t i = 0; i < s.KeywordCount; ++i) {
-    const std::vector<std::string>& kw = At(s.KeywordWords, i);
-    const int16_t last = At(s.KeywordLastWordIndex, i);
-    auto hit = positions.find(kw[0]);
-    if (hit == positions.end())
+    const std::string& first = At(At(s.KeywordWords, i), 0);
+    const size_t row = std::min(first.size(), kLengths - 1);
+    maybeFirst[row][first.empty() ? 0 : static_cast<unsigned char>(first[0])] = true;
+    byFirstWord[first].push_back(i);
+  }
+
+  std::vector<int64_t> found(static_cast<size_t>(s.KeywordCount), 0);
+  std::string key;
+  for (int32_t k = 0; k <= count; ++k) {
+    const std::string_view word = Document_Word(s, k, count);
+    const size_t row = std::min(word.size(), kLengths - 1);
+    const char first = word.empty() ? '\0' : upper ? text::UpperAscii(word[0]) : word[0];
+    if (!maybeFirst[row][static_cast<unsigned char>(first)])
       continue;
-    int16_t& matches = At(s.KeywordBodyMatches, i);
-    for (int32_t k : hit->second) {
-      if (last == 0) {
-        matches = ToInt16(int32_t{matches} + 1);
-        continue;
-      }
+    key.assign(word);
+    if (upper) {
+      for (char& c : key)
+        c = text::UpperAscii(c);
+    }
+    auto hit = byFirstWord.find(key);
+    if (hit == byFirstWord.end())
+      continue;
+    for (const int16_t i : hit->second) {
+      const std::vector<std::string>& kw = s.KeywordWords[static_cast<size_t>(i)];
+      const int16_t last = s.KeywordLastWordIndex[static_cast<size_t>(i)];
       // A phrase matches only where all of its words follow one another inside the list.
       bool whole = true;
-      for (int32_t j = 0; j <= last && whole; ++j)
-        whole = k + j < count && kw[static_cast<size_t>(j)] == w[static_cast<size_t>(k + j)];
+      for (int32_t j = 1; j <= last && whole; ++j) {
+        whole = k + j < count &&
+                Same_Word(Document_Word(s, k + j, count), kw[static_cast<size_t>(j)], upper);
+      }
       if (whole)
-        matches = ToInt16(int32_t{matches} + 1);
+        ++found[static_cast<size_t>(i)];
     }
+  }
+  for (int16_t i = 0; i < s.KeywordCount; ++i) {
+    int16_t& matches = At(s.KeywordBodyMatches, i);
+    const int64_t total = int64_t{matches} + found[static_cast<size_t>(i)];
+    if (total > INT16_MAX) {
+      matches = INT16_MAX;
+      RaiseOverflow();
+    }
+    matches = static_cast<int16_t>(total);
   }
 }
 
 void FillBodyView(AppState& s) {
   if (s.ViewBodyShowRaw == 1)
     return;
+  const int32_t count = s.DocumentWordCount;
+  if (count > 0)
+    CheckIndex(count - 1, 0, static_cast<int64_t>(s.DocumentWords.size()) - 1);
+  size_t size = 0;
+  for (int32_t k = 0; k < count; ++k)
+    size += s.DocumentWords[static_cast<size_t>(k)].size() + 2;
   std::string view;
-  for (int32_t k = 0; k < s.DocumentWordCount; ++k) {
+  view.reserve(size);
+  for (int32_t k = 0; k < count; ++k) {
     if (k > 0)
       view += ", ";
-    view += At(s.DocumentWords, k);
+    view += s.DocumentWords[static_cast<size_t>(k)];
   }
   s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox = std::move(view);
 }

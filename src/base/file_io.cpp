@@ -87,10 +87,20 @@ std::string ReadWholeFile(const std::string& path) {
   int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
   if (fd < 0)
     Fail("read", path, "opening", errno);
+  // Read straight into the string, sized from the file's length: a large page is neither
+  // copied through a buffer nor given twice the room it needs. A file that grows meanwhile
+  // is read on to its end.
   std::string bytes;
-  char buffer[1 << 16];
+  struct stat info {};
+  size_t expected = 0;
+  if (::fstat(fd, &info) == 0 && S_ISREG(info.st_mode) && info.st_size > 0)
+    expected = static_cast<size_t>(info.st_size);
+  size_t used = 0;
+  bytes.resize(expected + 1);
   while (true) {
-    ssize_t n = ::read(fd, buffer, sizeof buffer);
+    if (used == bytes.size())
+      bytes.resize(bytes.size() * 2);
+    ssize_t n = ::read(fd, bytes.data() + used, bytes.size() - used);
     if (n < 0 && errno == EINTR)
       continue;
     if (n < 0) {
@@ -100,9 +110,10 @@ std::string ReadWholeFile(const std::string& path) {
     }
     if (n == 0)
       break;
-    bytes.append(buffer, static_cast<size_t>(n));
+    used += static_cast<size_t>(n);
   }
   ::close(fd);
+  bytes.resize(used);
   return bytes;
 }
 

@@ -64,6 +64,8 @@ void Html_Init_ASCII_Constants(AppState& s) {
 int32_t DO_LOAD_File_TO_CACHE(AppState& s, const std::string& path) {
   std::string bytes = file_io::ReadWholeFile(path);
   const int32_t n = ToInt32(static_cast<int64_t>(bytes.size()));
+  s.DocumentBytes.clear();
+  s.DocumentBytes.reserve(bytes.size() + 1);  // the zero byte past the page without a move
   s.DocumentBytes.assign(bytes.begin(), bytes.end());
   s.DocumentBytes.push_back(0);
   s.DocumentText = std::move(bytes);

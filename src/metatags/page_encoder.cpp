@@ -28,6 +28,8 @@ class CacheRestore {
   ~CacheRestore() {
     if (!armed_)
       return;
+    s_.DocumentBytes.clear();
+    s_.DocumentBytes.reserve(s_.DocumentText.size() + 1);
     s_.DocumentBytes.assign(s_.DocumentText.begin(), s_.DocumentText.end());
     s_.DocumentBytes.push_back(0);
     s_.DocumentLength = static_cast<int32_t>(s_.DocumentText.size());

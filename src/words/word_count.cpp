@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <climits>
+#include <cstring>
 #include <string_view>
 #include <unordered_set>
 
@@ -38,7 +40,7 @@ class FilterLookup {
   std::unordered_set<std::string> entries_;
 };
 
-bool HasNonLetter(const AppState& s, const std::string& w) {
+bool HasNonLetter(const AppState& s, std::string_view w) {
   for (char c : w) {
     if (s.LetterTable[static_cast<unsigned char>(c)] == 0)
       return true;
@@ -50,8 +52,8 @@ bool HasNonLetter(const AppState& s, const std::string& w) {
 void GrowDocumentWords(AppState& s) {
   s.DocumentWordsCapacity = ToInt32(int64_t{s.DocumentWordsCapacity} + kDocumentWordsStep);
   const size_t size = static_cast<size_t>(s.DocumentWordsCapacity) + 1;
-  s.DocumentWords.resize(size);
-  s.DocumentWordsUpper.resize(size);
+  s.DocumentWords.Resize(size);
+  s.DocumentWordsUpper.Resize(size);
 }
 
 void ResizeDictionary(AppState& s) {
@@ -61,19 +63,32 @@ void ResizeDictionary(AppState& s) {
   s.UniqueWordValues.resize(size, 0);
 }
 
-void AddToDictionary(AppState& s, std::string w, const FilterLookup& lookup) {
-  if (s.WordMatchForceCase == 1)
-    w = text::LCase(w);
-  if (s.WordMatchIgnoreAlphaNumeric == 1 && HasNonLetter(s, w))
-    return;
-  if (lookup.Contains(text::LCase(w)))
-    return;
+// Stores the word (lower-cased first when `lower`) and its upper-case form at index count.
+void AppendToWordList(AppState& s, std::string_view word, bool lower) {
+  if (s.DocumentWordCount == s.DocumentWordsCapacity ||
+      static_cast<size_t>(s.DocumentWordCount) >= s.DocumentWords.size())
+    GrowDocumentWords(s);
+  const auto at = static_cast<size_t>(s.DocumentWordCount);
+  CheckIndex(s.DocumentWordCount, 0, static_cast<int64_t>(s.DocumentWords.size()) - 1);
+  // The lists are appended to; a count set back or forth by hand moves the end there.
+  for (WordList* list : {&s.DocumentWords, &s.DocumentWordsUpper}) {
+    list->Truncate(at);
+    while (list->Stored() < at)
+      list->Append({});
+  }
+  s.DocumentWords.Append(word, lower ? WordList::Fold::Lower : WordList::Fold::None);
+  s.DocumentWordsUpper.Append(word, WordList::Fold::Upper);
+  s.DocumentWordCount = ToInt32(int64_t{s.DocumentWordCount} + 1);
+}
 
+// Counts w (after the case rule, the letter test and the filter test) in the dictionary;
+// returns its index.
+int32_t CountInDictionary(AppState& s, const std::string& w) {
   auto hit = s.UniqueWordIndex.find(w);
   if (s.UniqueWordCount > 0 && hit != s.UniqueWordIndex.end()) {
     int16_t& count = At(s.UniqueWordCounts, hit->second);
     count = ToInt16(int32_t{count} + 1);
-    return;
+    return hit->second;
   }
   const int32_t entries = s.UniqueWordCount;
   if (entries > s.UniqueWordsCapacity) {
@@ -84,9 +99,130 @@ void AddToDictionary(AppState& s, std::string w, const FilterLookup& lookup) {
   At(s.UniqueWordCounts, entries) = 1;
   s.UniqueWordCount = ToInt16(int32_t{entries} + 1);
   s.UniqueWordIndex[w] = entries;
+  return entries;
 }
 
+void AddToDictionary(AppState& s, std::string w, const FilterLookup& lookup) {
+  if (s.WordMatchForceCase == 1)
+    w = text::LCase(w);
+  if (s.WordMatchIgnoreAlphaNumeric == 1 && HasNonLetter(s, w))
+    return;
+  if (lookup.Contains(text::LCase(w)))
+    return;
+  CountInDictionary(s, w);
+}
+
+// What the count does with each occurrence of one spelling, worked out at its first
+// occurrence: a page repeats its words, so every later one costs a single lookup.
+constexpr int32_t kSkippedWord = -2;  // not a letter word: neither listed nor counted
+constexpr int32_t kFilterWord = -1;   // listed, not counted
+
+uint64_t Hash_Word(std::string_view w) {
+  uint64_t h = 0x9E3779B97F4A7C15ULL ^ w.size();
+  size_t i = 0;
+  for (; i + 8 <= w.size(); i += 8) {
+    uint64_t v;
+    std::memcpy(&v, w.data() + i, 8);
+    h = (h ^ v) * 0xFF51AFD7ED558CCDULL;
+    h ^= h >> 32;
+  }
+  uint64_t v = 0;
+  std::memcpy(&v, w.data() + i, w.size() - i);
+  h = (h ^ v) * 0xC4CEB9FE1A85EC53ULL;
+  return h ^ (h >> 29);
+}
+
+// Open addressing over the spellings seen so far; the keys point into the stripped text,
+// which does not change during the count.
+class SpellingTable {
+ public:
+  struct Entry {
+    uint64_t hash = 0;
+    const char* data = nullptr;  // nullptr: a free slot
+    uint32_t size = 0;
+    int32_t outcome = 0;
+  };
+
+  SpellingTable() : slots_(kStartSlots) {}
+
+  // The entry of w; a new one has its data set and `fresh` true.
+  Entry& Find(std::string_view w, bool& fresh) {
+    if ((used_ + 1) * 2 > slots_.size())
+      Grow();
+    const uint64_t hash = Hash_Word(w);
+    const size_t mask = slots_.size() - 1;
+    for (size_t i = static_cast<size_t>(hash) & mask;; i = (i + 1) & mask) {
+      Entry& e = slots_[i];
+      if (e.data == nullptr) {
+        e = {hash, w.data(), static_cast<uint32_t>(w.size()), 0};
+        ++used_;
+        fresh = true;
+        return e;
+      }
+      if (e.hash == hash && e.size == w.size() && std::memcmp(e.data, w.data(), w.size()) == 0) {
+        fresh = false;
+        return e;
+      }
+    }
+  }
+
+ private:
+  static constexpr size_t kStartSlots = 4096;
+
+  void Grow() {
+    std::vector<Entry> old(slots_.size() * 2);
+    old.swap(slots_);
+    const size_t mask = slots_.size() - 1;
+    for (const Entry& e : old) {
+      if (e.data == nullptr)
+        continue;
+      size_t i = static_cast<size_t>(e.hash) & mask;
+      while (slots_[i].data != nullptr)
+        i = (i + 1) & mask;
+      slots_[i] = e;
+    }
+  }
+
+  std::vector<Entry> slots_;
+  size_t used_ = 0;
+};
+
 }  // namespace
+
+void WordList::Reset(size_t slots) {
+  chars_.clear();
+  ends_.clear();
+  slots_ = slots;
+}
+
+void WordList::Truncate(size_t words) {
+  if (words >= ends_.size())
+    return;
+  ends_.resize(words);
+  chars_.resize(words == 0 ? 0 : ends_.back());
+}
+
+void WordList::Reserve(size_t words, size_t chars) {
+  ends_.reserve(words);
+  chars_.reserve(chars);
+}
+
+void WordList::Append(std::string_view word, Fold fold) {
+  const size_t at = chars_.size();
+  if (at + word.size() > UINT32_MAX)
+    RaiseOverflow();
+  chars_.append(word);
+  if (fold == Fold::Lower) {
+    for (size_t i = at; i < chars_.size(); ++i)
+      chars_[i] = text::LowerAscii(chars_[i]);
+  } else if (fold == Fold::Upper) {
+    for (size_t i = at; i < chars_.size(); ++i)
+      chars_[i] = text::UpperAscii(chars_[i]);
+  }
+  ends_.push_back(static_cast<uint32_t>(chars_.size()));
+  if (ends_.size() > slots_)
+    slots_ = ends_.size();
+}
 
 void Init_Document_Word_Dictionary(AppState& s) {
   s.UniqueWordsCapacity = kUniqueWordsStart;
@@ -99,25 +235,58 @@ void Init_Document_Word_Dictionary(AppState& s) {
 
 void Init_Document_Word_List(AppState& s) {
   s.DocumentWordsCapacity = kDocumentWordsStart;
-  s.DocumentWords.assign(static_cast<size_t>(kDocumentWordsStart) + 1, std::string());
-  s.DocumentWordsUpper.assign(static_cast<size_t>(kDocumentWordsStart) + 1, std::string());
+  s.DocumentWords.Reset(static_cast<size_t>(kDocumentWordsStart) + 1);
+  s.DocumentWordsUpper.Reset(static_cast<size_t>(kDocumentWordsStart) + 1);
   s.DocumentWordCount = 0;
 }
 
 void Word_Count_Stripped_Text(AppState& s) {
   Init_Document_Word_Dictionary(s);
   const FilterLookup lookup(s);
-  const int64_t length = static_cast<int64_t>(s.StrippedText.size());
-  for (int64_t i = 1; i <= length; ++i) {
-    if (s.StrippedText[static_cast<size_t>(i - 1)] == ' ')
+  const std::string& text = s.StrippedText;
+  const size_t length = text.size();
+  std::array<bool, 256> breaks{};
+  for (size_t c = 0; c < breaks.size(); ++c)
+    breaks[c] = s.Get_Word_String_Chr_Table[c] != 0;
+
+  // Every word takes at least three characters of the text (two letters and a break), so
+  // this is all the room the lists can need; pages never touched cost nothing.
+  const size_t stored = s.DocumentWords.Stored();
+  s.DocumentWords.Reserve(stored + length / 3 + 1, stored * 8 + length);
+  s.DocumentWordsUpper.Reserve(stored + length / 3 + 1, stored * 8 + length);
+
+  SpellingTable spellings;
+  std::string folded;
+  for (size_t i = 1; i <= length; ++i) {
+    if (text[i - 1] == ' ')
       continue;
-    std::string word = Get_Word_String(s, static_cast<int32_t>(i));
-    const int64_t advance = static_cast<int64_t>(word.size());
+    // The word at i (Get_Word_String): it stops at the text's length without looking at the
+    // last character.
+    size_t p = i;
+    while (p != length && !breaks[static_cast<unsigned char>(text[p - 1])])
+      ++p;
+    const std::string_view word(text.data() + (i - 1), p - i);
     if (word.size() > 1) {
-      Add_Word_To_Unique_Word_Table(s, word);
-      AddToDictionary(s, std::move(word), lookup);
+      bool fresh = false;
+      SpellingTable::Entry& entry = spellings.Find(word, fresh);
+      if (fresh) {
+        folded = s.WordMatchForceCase == 1 ? text::LCase(word) : std::string(word);
+        if (s.WordMatchIgnoreAlphaNumeric == 1 && HasNonLetter(s, folded)) {
+          entry.outcome = kSkippedWord;
+        } else {
+          AppendToWordList(s, word, s.WordMatchForceCase == 1);
+          entry.outcome =
+              lookup.Contains(text::LCase(folded)) ? kFilterWord : CountInDictionary(s, folded);
+        }
+      } else if (entry.outcome != kSkippedWord) {
+        AppendToWordList(s, word, s.WordMatchForceCase == 1);
+        if (entry.outcome >= 0) {
+          int16_t& count = At(s.UniqueWordCounts, entry.outcome);
+          count = ToInt16(int32_t{count} + 1);
+        }
+      }
     }
-    i += advance;
+    i += word.size();
   }
   Sort_Word_Strings(s);
 }
@@ -127,12 +296,7 @@ void Add_Word_To_Unique_Word_Table(AppState& s, std::string word) {
     word = text::LCase(word);
   if (s.WordMatchIgnoreAlphaNumeric == 1 && HasNonLetter(s, word))
     return;
-  if (s.DocumentWordCount == s.DocumentWordsCapacity ||
-      static_cast<size_t>(s.DocumentWordCount) >= s.DocumentWords.size())
-    GrowDocumentWords(s);
-  At(s.DocumentWordsUpper, s.DocumentWordCount) = text::UCase(word);
-  At(s.DocumentWords, s.DocumentWordCount) = std::move(word);
-  s.DocumentWordCount = ToInt32(int64_t{s.DocumentWordCount} + 1);
+  AppendToWordList(s, word, false);
 }
 
 void Add_Word_To_Dictionary(AppState& s, std::string word) {

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -19,9 +20,40 @@ inline constexpr int32_t kUniqueWordsStart = 2000;
 inline constexpr int32_t kUniqueWordsStep = 500;
 inline constexpr int kWordSortBuckets = 1001;  // occurrences 0..1000
 
+// A table of words indexed from 0, stored end to end in one buffer: a page of half a million
+// words costs its characters and one offset each, not a string object per word. Words are
+// only ever appended; the slots after the last stored word read as empty.
+class WordList {
+ public:
+  // Slots 0..slots-1, all empty.
+  void Reset(size_t slots);
+  // More (or fewer) slots; the stored words stay.
+  void Resize(size_t slots) { slots_ = slots; }
+  // Forgets the words from index `words` on.
+  void Truncate(size_t words);
+  // Room for this many words and characters without moving the buffers.
+  void Reserve(size_t words, size_t chars);
+  size_t size() const { return slots_; }
+  size_t Stored() const { return ends_.size(); }
+  std::string_view operator[](size_t i) const {
+    if (i >= ends_.size())
+      return {};
+    const size_t begin = i == 0 ? 0 : ends_[i - 1];
+    return std::string_view(chars_).substr(begin, ends_[i] - begin);
+  }
+  enum class Fold { None, Lower, Upper };  // ASCII case folding on the way in
+  // Stores the word at index Stored(), adding a slot when there is none.
+  void Append(std::string_view word, Fold fold = Fold::None);
+
+ private:
+  std::string chars_;
+  std::vector<uint32_t> ends_;  // ends_[i]: offset one past word i in chars_
+  size_t slots_ = 0;
+};
+
 struct WordCountFields {
-  std::vector<std::string> DocumentWords;  // indexes 0..DocumentWordsCapacity
-  std::vector<std::string> DocumentWordsUpper;
+  WordList DocumentWords;  // indexes 0..DocumentWordsCapacity
+  WordList DocumentWordsUpper;
   int32_t DocumentWordCount = 0;
   int32_t DocumentWordsCapacity = 0;
 

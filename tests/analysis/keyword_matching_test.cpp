@@ -29,8 +29,9 @@ struct Matching {
   }
 
   void Words(const std::vector<std::string>& words) {
-    s.DocumentWords = words;
-    s.DocumentWords.emplace_back();  // the slot after the last word
+    s.DocumentWords.Reset(words.size() + 1);  // and the slot after the last word
+    for (const std::string& w : words)
+      s.DocumentWords.Append(w);
     s.DocumentWordCount = static_cast<int32_t>(words.size());
   }
 

@@ -46,7 +46,10 @@ struct Counter {
   }
 
   std::vector<std::string> List() const {
-    return {s.DocumentWords.begin(), s.DocumentWords.begin() + s.DocumentWordCount};
+    std::vector<std::string> out;
+    for (int i = 0; i < s.DocumentWordCount; ++i)
+      out.emplace_back(s.DocumentWords[static_cast<size_t>(i)]);
+    return out;
   }
   std::vector<std::string> Dictionary() const {
     std::vector<std::string> out;
