@@ -6,7 +6,6 @@
 #include <cmath>
 #include <cstdio>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "app/app_state.h"
@@ -99,6 +98,75 @@ bool Same_Word(std::string_view word, std::string_view keywordWord, bool upper) 
   return true;
 }
 
+// The keywords' first words (already under the case rule), each with the keywords that start
+// with it, found by the hash of a document word folded on the fly.
+class FirstWords {
+ public:
+  FirstWords(const AppState& s, bool upper) : upper_(upper) {
+    for (int16_t i = 0; i < s.KeywordCount; ++i) {
+      const std::string& first = At(At(s.KeywordWords, i), 0);
+      const int32_t known = Group_Of(first);
+      if (known >= 0) {
+        groups_[static_cast<size_t>(known)].keywords.push_back(i);
+        continue;
+      }
+      groups_.push_back({first, {i}});
+      if (groups_.size() * 2 > slots_.size())
+        Rehash();
+      else
+        Place(groups_.size() - 1);
+    }
+  }
+
+  // The keywords whose first word the document word is, or nullptr.
+  const std::vector<int16_t>* Find(std::string_view word) const {
+    const int32_t g = Group_Of(word);
+    return g < 0 ? nullptr : &groups_[static_cast<size_t>(g)].keywords;
+  }
+
+ private:
+  struct Group {
+    std::string word;
+    std::vector<int16_t> keywords;
+  };
+
+  int32_t Group_Of(std::string_view word) const {
+    if (slots_.empty())
+      return -1;
+    const size_t mask = slots_.size() - 1;
+    for (size_t i = Hash(word) & mask; slots_[i] >= 0; i = (i + 1) & mask) {
+      if (Same_Word(word, groups_[static_cast<size_t>(slots_[i])].word, upper_))
+        return slots_[i];
+    }
+    return -1;
+  }
+
+  size_t Hash(std::string_view word) const {
+    uint64_t h = 0xCBF29CE484222325ULL;
+    for (const char c : word)
+      h = (h ^ static_cast<unsigned char>(upper_ ? text::UpperAscii(c) : c)) * 0x100000001B3ULL;
+    return static_cast<size_t>(h ^ (h >> 32));
+  }
+
+  void Place(size_t g) {
+    const size_t mask = slots_.size() - 1;
+    size_t i = Hash(groups_[g].word) & mask;
+    while (slots_[i] >= 0)
+      i = (i + 1) & mask;
+    slots_[i] = static_cast<int32_t>(g);
+  }
+
+  void Rehash() {
+    slots_.assign(std::max<size_t>(16, slots_.size() * 2), -1);
+    for (size_t g = 0; g < groups_.size(); ++g)
+      Place(g);
+  }
+
+  bool upper_;
+  std::vector<Group> groups_;
+  std::vector<int32_t> slots_;
+};
+
 // One pass over the words for all keywords at once: only a word that could be some keyword's
 // first word (same length and first character) is looked up. The counts are those of the
 // keyword-by-keyword scan.
@@ -111,31 +179,24 @@ void ScanWords(AppState& s) {
 
   constexpr size_t kLengths = 64;  // longer words share the last row
   std::vector<std::array<bool, 256>> maybeFirst(kLengths);
-  std::unordered_map<std::string_view, std::vector<int16_t>> byFirstWord;
   for (int16_t i = 0; i < s.KeywordCount; ++i) {
     const std::string& first = At(At(s.KeywordWords, i), 0);
     const size_t row = std::min(first.size(), kLengths - 1);
     maybeFirst[row][first.empty() ? 0 : static_cast<unsigned char>(first[0])] = true;
-    byFirstWord[first].push_back(i);
   }
+  const FirstWords firstWords(s, upper);
 
   std::vector<int64_t> found(static_cast<size_t>(s.KeywordCount), 0);
-  std::string key;
   for (int32_t k = 0; k <= count; ++k) {
     const std::string_view word = Document_Word(s, k, count);
     const size_t row = std::min(word.size(), kLengths - 1);
     const char first = word.empty() ? '\0' : upper ? text::UpperAscii(word[0]) : word[0];
     if (!maybeFirst[row][static_cast<unsigned char>(first)])
       continue;
-    key.assign(word);
-    if (upper) {
-      for (char& c : key)
-        c = text::UpperAscii(c);
-    }
-    auto hit = byFirstWord.find(key);
-    if (hit == byFirstWord.end())
+    const std::vector<int16_t>* keywords = firstWords.Find(word);
+    if (keywords == nullptr)
       continue;
-    for (const int16_t i : hit->second) {
+    for (const int16_t i : *keywords) {
       const std::vector<std::string>& kw = s.KeywordWords[static_cast<size_t>(i)];
       const int16_t last = s.KeywordLastWordIndex[static_cast<size_t>(i)];
       // A phrase matches only where all of its words follow one another inside the list.

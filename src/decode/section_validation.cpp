@@ -1,5 +1,8 @@
 #include "decode/section_validation.h"
 
+#include <algorithm>
+#include <cstring>
+
 #include "app/app_state.h"
 #include "base/run_time_error.h"
 
@@ -75,14 +78,27 @@ int32_t Html_Get_Ending_HeaderByte_For_Tag_Encoding(const AppState& s) {
 int32_t Html_Copy_Section_To_Temp(AppState& s, int32_t from, int32_t to, int32_t destination) {
   if (from >= to)
     return destination;
+  // Byte by byte in effect: the bytes blanked by Html_Clear_Cache_Section (zeros) are left
+  // out, a position past the cache or the buffer is a subscript error. Done run by run.
+  if (from < 0 || destination < 0)
+    RaiseSubscriptOutOfRange();
+  const auto cacheSize = static_cast<int64_t>(s.DocumentBytes.size());
+  const int64_t last = std::min<int64_t>(to, cacheSize - 1);
+  const uint8_t* bytes = s.DocumentBytes.data();
   int64_t next = destination;
-  for (int64_t p = from; p <= to; ++p) {
-    const uint8_t b = document::CacheByte(s, p);
-    if (b == 0)
-      continue;  // blanked by Html_Clear_Cache_Section
-    At(s.RebuildBytes, next) = b;
-    ++next;
+  int64_t p = from;
+  while (p <= last) {
+    const void* zero = std::memchr(bytes + p, 0, static_cast<size_t>(last - p + 1));
+    const int64_t stop = zero == nullptr ? last + 1 : static_cast<const uint8_t*>(zero) - bytes;
+    const int64_t run = stop - p;
+    if (next + run > static_cast<int64_t>(s.RebuildBytes.size()))
+      RaiseSubscriptOutOfRange();
+    std::memcpy(s.RebuildBytes.data() + next, bytes + p, static_cast<size_t>(run));
+    next += run;
+    p = stop + 1;  // over the zero
   }
+  if (to > last)
+    RaiseSubscriptOutOfRange();
   return ToInt32(next);
 }
 

@@ -1,5 +1,7 @@
 #include "metatags/page_encoder.h"
 
+#include <algorithm>
+
 #include "app/app_state.h"
 #include "base/file_io.h"
 #include "base/run_time_error.h"
@@ -103,8 +105,12 @@ void Blank_Old_Tags(AppState& s) {
 
 // The kept page with the header block after `insertAt`, in RebuildBytes; returns its length.
 int32_t Rebuild_Into_Buffer(AppState& s, const std::string& block, int32_t insertAt) {
-  s.RebuildBytes.assign(static_cast<size_t>(ToInt32(2 * static_cast<int64_t>(s.DocumentLength))),
-                        0);
+  // The buffer holds twice the page; a header block that does not fit then is an error. When
+  // the page and the block fit for sure, only that much is set up.
+  const int64_t limit = ToInt32(2 * static_cast<int64_t>(s.DocumentLength));
+  const int64_t enough = int64_t{s.DocumentLength} + 1 + static_cast<int64_t>(block.size());
+  s.RebuildBytes.clear();
+  s.RebuildBytes.resize(static_cast<size_t>(std::min(limit, enough)));
   int32_t next = decode::Html_Copy_Section_To_Temp(s, 0, insertAt, 0);
   for (char c : block) {
     At(s.RebuildBytes, next) = static_cast<uint8_t>(c);

@@ -117,49 +117,51 @@ void AddToDictionary(AppState& s, std::string w, const FilterLookup& lookup) {
 constexpr int32_t kSkippedWord = -2;  // not a letter word: neither listed nor counted
 constexpr int32_t kFilterWord = -1;   // listed, not counted
 
-uint64_t Hash_Word(std::string_view w) {
-  uint64_t h = 0x9E3779B97F4A7C15ULL ^ w.size();
-  size_t i = 0;
-  for (; i + 8 <= w.size(); i += 8) {
-    uint64_t v;
-    std::memcpy(&v, w.data() + i, 8);
-    h = (h ^ v) * 0xFF51AFD7ED558CCDULL;
-    h ^= h >> 32;
-  }
-  uint64_t v = 0;
-  std::memcpy(&v, w.data() + i, w.size() - i);
-  h = (h ^ v) * 0xC4CEB9FE1A85EC53ULL;
-  return h ^ (h >> 29);
-}
-
-// Open addressing over the spellings seen so far; the keys point into the stripped text,
-// which does not change during the count.
+// Open addressing over the spellings seen so far. The first 16 bytes of each spelling are
+// kept in its entry, so a lookup of a short word touches the table alone; longer spellings
+// compare their rest in the stripped text, which does not change during the count.
 class SpellingTable {
  public:
   struct Entry {
     uint64_t hash = 0;
-    const char* data = nullptr;  // nullptr: a free slot
+    uint64_t head0 = 0, head1 = 0;  // the first 16 bytes, zero-padded
+    const char* data = nullptr;     // nullptr: a free slot
     uint32_t size = 0;
     int32_t outcome = 0;
   };
 
   SpellingTable() : slots_(kStartSlots) {}
 
-  // The entry of w; a new one has its data set and `fresh` true.
+  // The entry of w; a new one has its key set and `fresh` true.
   Entry& Find(std::string_view w, bool& fresh) {
     if ((used_ + 1) * 2 > slots_.size())
       Grow();
-    const uint64_t hash = Hash_Word(w);
+    char head[kHead] = {};
+    const size_t n = w.size() < kHead ? w.size() : kHead;
+    for (size_t i = 0; i < n; ++i)
+      head[i] = w[i];
+    uint64_t head0, head1;
+    std::memcpy(&head0, head, 8);
+    std::memcpy(&head1, head + 8, 8);
+    uint64_t hash = (head0 * 0xFF51AFD7ED558CCDULL) ^ (head1 * 0xC4CEB9FE1A85EC53ULL) ^ w.size();
+    for (size_t i = kHead; i < w.size(); ++i)
+      hash = (hash ^ static_cast<unsigned char>(w[i])) * 0x100000001B3ULL;
+    hash ^= hash >> 29;
+    hash *= 0x9E3779B97F4A7C15ULL;
+    hash ^= hash >> 32;
+
     const size_t mask = slots_.size() - 1;
     for (size_t i = static_cast<size_t>(hash) & mask;; i = (i + 1) & mask) {
       Entry& e = slots_[i];
       if (e.data == nullptr) {
-        e = {hash, w.data(), static_cast<uint32_t>(w.size()), 0};
+        e = {hash, head0, head1, w.data(), static_cast<uint32_t>(w.size()), 0};
         ++used_;
         fresh = true;
         return e;
       }
-      if (e.hash == hash && e.size == w.size() && std::memcmp(e.data, w.data(), w.size()) == 0) {
+      if (e.hash == hash && e.size == w.size() && e.head0 == head0 && e.head1 == head1 &&
+          (w.size() <= kHead ||
+           std::memcmp(e.data + kHead, w.data() + kHead, w.size() - kHead) == 0)) {
         fresh = false;
         return e;
       }
@@ -168,6 +170,7 @@ class SpellingTable {
 
  private:
   static constexpr size_t kStartSlots = 4096;
+  static constexpr size_t kHead = 16;
 
   void Grow() {
     std::vector<Entry> old(slots_.size() * 2);
