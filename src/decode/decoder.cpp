@@ -112,25 +112,26 @@ int16_t DecodeAltText(AppState& s, const std::string& tagText) {
 
 void HandleTag(AppState& s, bool collect) {
   const std::string tag = text::LCase(document::Get_Open_Html_String(s));
+  const std::string_view name = tag;  // compared by length first, then by bytes
   int16_t handled = 0;
-  if (tag == "<head") {
+  if (name == "<head") {
     s.HeadStart = s.ScanPosition;
-  } else if (tag == "</head") {
+  } else if (name == "</head") {
     s.HeadEnd = s.ScanPosition;
-  } else if (tag == "<body") {
+  } else if (name == "<body") {
     s.BodyStart = s.ScanPosition;
-  } else if (tag == "</body") {
+  } else if (name == "</body") {
     s.BodyEnd = s.ScanPosition;
-  } else if (tag == "<html") {
+  } else if (name == "<html") {
     s.HtmlStart = s.ScanPosition;
-  } else if (tag == "</html") {
+  } else if (name == "</html") {
     s.HtmlEnd = s.ScanPosition;
-  } else if (tag == "<title") {
+  } else if (name == "<title") {
     handled = Html_Decode_TitleTag(s, tag, collect ? 1 : 0);
-  } else if (tag == "<img") {
+  } else if (name == "<img") {
     if (collect && s.DecodeIncludeAltText == 1)
       handled = DecodeAltText(s, tag);
-  } else if (tag == "<meta") {
+  } else if (name == "<meta") {
     handled = Html_Decode_METATAG(s, tag, collect ? kMetaAddToText : 0);
   }
   if (handled != 0)

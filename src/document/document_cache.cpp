@@ -66,7 +66,8 @@ int32_t DO_LOAD_File_TO_CACHE(AppState& s, const std::string& path) {
   const int32_t n = ToInt32(static_cast<int64_t>(bytes.size()));
   s.DocumentBytes.clear();
   s.DocumentBytes.reserve(bytes.size() + 1);  // the zero byte past the page without a move
-  s.DocumentBytes.assign(bytes.begin(), bytes.end());
+  const auto* data = reinterpret_cast<const uint8_t*>(bytes.data());  // copied as one block
+  s.DocumentBytes.assign(data, data + bytes.size());
   s.DocumentBytes.push_back(0);
   s.DocumentText = std::move(bytes);
   s.Form.Html_Document_Editor = s.DocumentText;

@@ -1,5 +1,6 @@
 #include "document/tag_scanner.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "app/app_state.h"
@@ -100,14 +101,20 @@ int16_t Scan_Tag_List(const AppState& s, const std::string& tagText) {
 }
 
 std::string Get_Open_Html_String(const AppState& s) {
-  std::string tag;
-  for (int64_t p = s.ScanPosition; p < s.DocumentLength; ++p) {
-    const uint8_t b = CacheByte(s, p);
-    if (EndsTagName(b))
-      break;
-    tag.push_back(static_cast<char>(b));
-  }
-  return tag;
+  const int64_t from = s.ScanPosition;
+  const int64_t end = s.DocumentLength;
+  if (from >= end)
+    return {};
+  // Byte by byte in effect, a position outside the cache being a subscript error.
+  CacheByte(s, from);
+  const int64_t inCache = std::min<int64_t>(end, static_cast<int64_t>(s.DocumentBytes.size()));
+  const uint8_t* bytes = s.DocumentBytes.data();
+  int64_t p = from;
+  while (p < inCache && !EndsTagName(bytes[p]))
+    ++p;
+  if (p == inCache && inCache < end)
+    RaiseSubscriptOutOfRange();
+  return std::string(reinterpret_cast<const char*>(bytes) + from, static_cast<size_t>(p - from));
 }
 
 std::string Get_This_MetaTags_Variables(const AppState& s, const std::string& keyword) {
@@ -125,15 +132,25 @@ std::string Get_This_MetaTags_Variables(const AppState& s, const std::string& ke
 
 void Find_Close_Of_This_Html_Tag(AppState& s, const std::string& tagText) {
   bool inQuote = false;
-  for (int64_t p = static_cast<int64_t>(s.ScanPosition) + static_cast<int64_t>(tagText.size());
-       p <= s.ScanEndPosition; ++p) {
-    const uint8_t b = CacheByte(s, p);
-    if (b == kQuote) {
-      inQuote = !inQuote;
-    } else if (b == kTagClose && !inQuote) {
-      s.ScanPosition = ToInt32(p + 1);
-      return;
+  const int64_t from = static_cast<int64_t>(s.ScanPosition) + static_cast<int64_t>(tagText.size());
+  const int64_t last = s.ScanEndPosition;
+  if (from <= last) {
+    // Byte by byte in effect, a position outside the cache being a subscript error.
+    CacheByte(s, from);
+    const int64_t lastInCache =
+        std::min<int64_t>(last, static_cast<int64_t>(s.DocumentBytes.size()) - 1);
+    const uint8_t* bytes = s.DocumentBytes.data();
+    for (int64_t p = from; p <= lastInCache; ++p) {
+      const uint8_t b = bytes[p];
+      if (b == kQuote) {
+        inQuote = !inQuote;
+      } else if (b == kTagClose && !inQuote) {
+        s.ScanPosition = ToInt32(p + 1);
+        return;
+      }
     }
+    if (lastInCache < last)
+      RaiseSubscriptOutOfRange();
   }
   s.ScanPosition = ToInt32(static_cast<int64_t>(s.ScanEndPosition) + 1);
 }

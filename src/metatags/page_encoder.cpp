@@ -32,7 +32,8 @@ class CacheRestore {
       return;
     s_.DocumentBytes.clear();
     s_.DocumentBytes.reserve(s_.DocumentText.size() + 1);
-    s_.DocumentBytes.assign(s_.DocumentText.begin(), s_.DocumentText.end());
+    const auto* data = reinterpret_cast<const uint8_t*>(s_.DocumentText.data());
+    s_.DocumentBytes.assign(data, data + s_.DocumentText.size());
     s_.DocumentBytes.push_back(0);
     s_.DocumentLength = static_cast<int32_t>(s_.DocumentText.size());
   }

@@ -81,15 +81,8 @@ void AppendToWordList(AppState& s, std::string_view word, bool lower) {
   s.DocumentWordCount = ToInt32(int64_t{s.DocumentWordCount} + 1);
 }
 
-// Counts w (after the case rule, the letter test and the filter test) in the dictionary;
-// returns its index.
-int32_t CountInDictionary(AppState& s, const std::string& w) {
-  auto hit = s.UniqueWordIndex.find(w);
-  if (s.UniqueWordCount > 0 && hit != s.UniqueWordIndex.end()) {
-    int16_t& count = At(s.UniqueWordCounts, hit->second);
-    count = ToInt16(int32_t{count} + 1);
-    return hit->second;
-  }
+// Stores w as a new dictionary entry, seen once; returns its index.
+int32_t NewDictionaryEntry(AppState& s, const std::string& w) {
   const int32_t entries = s.UniqueWordCount;
   if (entries > s.UniqueWordsCapacity) {
     s.UniqueWordsCapacity += kUniqueWordsStep;
@@ -98,8 +91,28 @@ int32_t CountInDictionary(AppState& s, const std::string& w) {
   At(s.UniqueWords, entries) = w;
   At(s.UniqueWordCounts, entries) = 1;
   s.UniqueWordCount = ToInt16(int32_t{entries} + 1);
-  s.UniqueWordIndex[w] = entries;
   return entries;
+}
+
+// Counts w (after the case rule, the letter test and the filter test) in the dictionary;
+// returns its index. The word index is either exact or behind (entries added without it, or
+// cleared by the sort); a stale one is rebuilt first.
+int32_t CountInDictionary(AppState& s, const std::string& w) {
+  const auto entries = static_cast<size_t>(std::max<int16_t>(s.UniqueWordCount, 0));
+  if (s.UniqueWordIndex.size() != entries) {
+    s.UniqueWordIndex.clear();
+    for (size_t i = 0; i < entries && i < s.UniqueWords.size(); ++i)
+      s.UniqueWordIndex.emplace(s.UniqueWords[i], static_cast<int32_t>(i));
+  }
+  auto hit = s.UniqueWordIndex.find(w);
+  if (s.UniqueWordCount > 0 && hit != s.UniqueWordIndex.end()) {
+    int16_t& count = At(s.UniqueWordCounts, hit->second);
+    count = ToInt16(int32_t{count} + 1);
+    return hit->second;
+  }
+  const int32_t index = NewDictionaryEntry(s, w);
+  s.UniqueWordIndex[w] = index;
+  return index;
 }
 
 void AddToDictionary(AppState& s, std::string w, const FilterLookup& lookup) {
@@ -278,8 +291,13 @@ void Word_Count_Stripped_Text(AppState& s) {
           entry.outcome = kSkippedWord;
         } else {
           AppendToWordList(s, word, s.WordMatchForceCase == 1);
-          entry.outcome =
-              lookup.Contains(text::LCase(folded)) ? kFilterWord : CountInDictionary(s, folded);
+          // Without case folding a new spelling is a new word: the dictionary started empty.
+          if (lookup.Contains(text::LCase(folded)))
+            entry.outcome = kFilterWord;
+          else if (s.WordMatchForceCase == 1)
+            entry.outcome = CountInDictionary(s, folded);
+          else
+            entry.outcome = NewDictionaryEntry(s, folded);
         }
       } else if (entry.outcome != kSkippedWord) {
         AppendToWordList(s, word, s.WordMatchForceCase == 1);
@@ -348,9 +366,7 @@ void Sort_Word_Strings(AppState& s) {
     s.UniqueWordCounts[k] = sortCounts[from];
     s.UniqueWordValues[k] = sortValues[from];
   }
-  s.UniqueWordIndex.clear();
-  for (int32_t i = 0; i < entries; ++i)
-    s.UniqueWordIndex[s.UniqueWords[static_cast<size_t>(i)]] = i;
+  s.UniqueWordIndex.clear();  // rebuilt when a word is next counted
 }
 
 }  // namespace zentrel::words
