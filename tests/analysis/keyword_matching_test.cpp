@@ -85,6 +85,11 @@ TEST(Tally_Current_Documents_Keyword_Matches, WordScanMatchesWholeWordsAndPhrase
   last.Words({"cat", "blue"});
   EXPECT_EQ(last.Body(), (Counts{0, 1}));
 
+  // Keywords sharing a first word are each counted, whatever the case of the page's words.
+  Matching shared({"red", "red shoes", "Red hat", "red"});
+  shared.Words({"RED", "shoes", "red", "hat", "Red"});
+  EXPECT_EQ(shared.Body(), (Counts{3, 1, 1, 3}));
+
   Matching raw({"x"});
   raw.s.ViewBodyShowRaw = 1;
   raw.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox = "as decoded";

@@ -116,6 +116,19 @@ TEST(Word_Count_Stripped_Text, CaseAndLetterOnlyFlags) {
   EXPECT_EQ(c.Dictionary(), (Words{"word=2", "ok=1", "don't=1", "mp3=1"}));
 }
 
+TEST(Word_Count_Stripped_Text, EverySpellingKeptWholeAndCountedOnAfterASort) {
+  Counter c;
+  const std::string a = "abcdefghijklmnopqrstuvwxyz", b = "abcdefghijklmnopqrstuvwxyy";
+  c.Count(a + " " + b + " " + a + " abcdefghijklmnop ");
+  EXPECT_EQ(c.Dictionary(), (Words{a + "=2", "abcdefghijklmnop=1", b + "=1"}));
+
+  // The dictionary stays countable after its sort moved the words.
+  c.Count("dog cat cat ");
+  Add_Word_To_Dictionary(c.s, "dog");
+  Add_Word_To_Dictionary(c.s, "eel");
+  EXPECT_EQ(c.Dictionary(), (Words{"cat=2", "dog=2", "eel=1"}));
+}
+
 TEST(Word_Count_Stripped_Text, LimitsOfTheCounts) {
   Counter c;
   std::string text;
