@@ -5,13 +5,6 @@
 
 namespace zentrel::text {
 
-char LowerAscii(char c) {
-  return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c;
-}
-char UpperAscii(char c) {
-  return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 32) : c;
-}
-
 std::string LCase(std::string_view s) {
   std::string out(s);
   for (char& c : out)

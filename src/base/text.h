@@ -12,8 +12,13 @@ inline constexpr std::string_view kCrLf = "\r\n";
 
 std::string LCase(std::string_view s);
 std::string UCase(std::string_view s);
-char LowerAscii(char c);
-char UpperAscii(char c);
+// Inline: the word and tag scanners fold every byte they look at.
+inline char LowerAscii(char c) {
+  return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c;
+}
+inline char UpperAscii(char c) {
+  return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 32) : c;
+}
 
 // Removes leading and trailing spaces (code 32 only); tabs and other white space stay.
 std::string Trim(std::string_view s);

@@ -111,7 +111,9 @@ int16_t DecodeAltText(AppState& s, const std::string& tagText) {
 }
 
 void HandleTag(AppState& s, bool collect) {
-  const std::string tag = text::LCase(document::Get_Open_Html_String(s));
+  std::string tag = document::Get_Open_Html_String(s);
+  for (char& c : tag)
+    c = text::LowerAscii(c);
   const std::string_view name = tag;  // compared by length first, then by bytes
   int16_t handled = 0;
   if (name == "<head") {

@@ -1,7 +1,6 @@
 #include "document/document_cache.h"
 
 #include <algorithm>
-#include <cstring>
 #include <string_view>
 
 #include "app/app_state.h"
@@ -29,8 +28,12 @@ int32_t Reload_File_From_Memory_TO_Cache(AppState& s) {
   app::BusyCursor busy(*s.platform);
   const int32_t n = ToInt32(static_cast<int64_t>(edited.size()));
   const int32_t allocated = ToInt32(static_cast<int64_t>(n) + kReloadSpare);
-  s.DocumentBytes.assign(static_cast<size_t>(allocated) + 1, 0);
-  std::memcpy(s.DocumentBytes.data(), edited.data(), edited.size());
+  // The page, then zeros up to the recorded size: each byte written once.
+  const auto* data = reinterpret_cast<const uint8_t*>(edited.data());
+  s.DocumentBytes.clear();
+  s.DocumentBytes.reserve(static_cast<size_t>(allocated) + 1);
+  s.DocumentBytes.assign(data, data + edited.size());
+  s.DocumentBytes.resize(static_cast<size_t>(allocated) + 1, 0);
   s.DocumentBytesAllocated = allocated;
   s.DocumentText = edited;
   return n;

@@ -92,9 +92,18 @@ void Build_Tag_list(AppState& s) {
 }
 
 int16_t Scan_Tag_List(const AppState& s, const std::string& tagText) {
-  const std::string lower = text::LCase(tagText);
+  // Each entry against the tag in lower case, folded while comparing rather than copied.
+  const auto matches = [&tagText](const std::string& entry) {
+    if (entry.size() != tagText.size())
+      return false;
+    for (size_t c = 0; c < entry.size(); ++c) {
+      if (text::LowerAscii(tagText[c]) != entry[c])
+        return false;
+    }
+    return true;
+  };
   for (int16_t i = 0; i < s.TagListCount; ++i) {
-    if (At(s.TagOpenList, i) == lower)
+    if (matches(At(s.TagOpenList, i)))
       return ToInt16(static_cast<int64_t>(text::Val(At(s.TagKindList, i))));
   }
   return 0;
