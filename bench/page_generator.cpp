@@ -1,5 +1,6 @@
 #include "page_generator.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <random>
