@@ -25,15 +25,6 @@ TEST(Report_Center, HalvesGoToTheEvenNeighbour) {
   EXPECT_EQ(Report_Text(w.s), std::string(80, 'x') + "\r\n" + std::string(36, ' ') + "abc\r\n ");
 }
 
-TEST(Report_Section_Break, RuleLinesAndUnderlinedTitles) {
-  Writer w;
-  Report_Section_Break(w.s, "Zentrel Page Report");
-  Report_Title(w.s, "-= KeyWord Count =-");
-  const std::string rule = "*=" + std::string(70, '-') + "=*\r\n", pad(28, ' ');
-  EXPECT_EQ(Report_Text(w.s), rule + pad + "Zentrel Page Report\r\n" + rule + pad +
-                                  "-= KeyWord Count =-\r\n" + pad + std::string(19, '=') + "\r\n ");
-}
-
 TEST(Report, GrowsTheBufferByStepsAndLosesNothing) {
   Writer w;
   const std::string line(98, 'r');  // 100 characters with CR LF

@@ -56,20 +56,6 @@ TEST(HTML_VALIDATE_Document_Sections, FirstFailingCheckWinsAndComparisonsAreStri
             "HEAD Tag </HEAD> NOT allowed Between <BODY> & </BODY> tags");
 }
 
-TEST(Html_Get_Starting_HeaderByte_For_Tag_Encoding, HeadThenHtmlThenStartOfPage) {
-  DecodeState d;
-  AppState& s = d.s;
-  s.DocumentLength = 100;
-  s.HeadStart = 12, s.HtmlStart = 3, s.HeadEnd = 40;
-  EXPECT_EQ(Html_Get_Starting_HeaderByte_For_Tag_Encoding(s), 17);
-  EXPECT_EQ(Html_Get_Ending_HeaderByte_For_Tag_Encoding(s), 40);
-  s.HeadStart = -1, s.HeadEnd = -1;
-  EXPECT_EQ(Html_Get_Starting_HeaderByte_For_Tag_Encoding(s), 8);
-  s.HtmlStart = -1;
-  EXPECT_EQ(Html_Get_Starting_HeaderByte_For_Tag_Encoding(s), 0);
-  EXPECT_EQ(Html_Get_Ending_HeaderByte_For_Tag_Encoding(s), 101);
-}
-
 TEST(Html_Copy_Section_To_Temp, CopiesNonZeroBytesInclusiveOnlyWhenFromBeforeTo) {
   DecodeState d;
   AppState& s = d.s;

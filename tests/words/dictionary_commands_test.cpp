@@ -160,39 +160,27 @@ TEST(EditWordFilters, CancelledDialogsChangeNothing) {
 TEST(Prefs_CheckBoxes, EachClickCopiesItsBoxIntoItsSetting) {
   using F = app::FormModel;
   using S = app::ShellFields;
+#define BOX(name, setting) \
+  { #name, &F::name, &S::setting }
   const std::tuple<const char*, int16_t F::*, int16_t S::*> pairs[] = {
-      {"HtmlDecodePref_IncludeTitleWithBody_CheckBox",
-       &F::HtmlDecodePref_IncludeTitleWithBody_CheckBox, &S::DecodeIncludeTitleWithBody},
-      {"HtmlDecodePref_IncludeALTTEXT_CheckBox", &F::HtmlDecodePref_IncludeALTTEXT_CheckBox,
-       &S::DecodeIncludeAltText},
-      {"HtmlDecodePref_IncludeBODYTEXT_CheckBox", &F::HtmlDecodePref_IncludeBODYTEXT_CheckBox,
-       &S::DecodeIncludeBodyText},
-      {"HtmlDecodePref_IncludeMetaDizzyWithBody_CheckBox",
-       &F::HtmlDecodePref_IncludeMetaDizzyWithBody_CheckBox,
-       &S::DecodeIncludeMetaDescriptionWithBody},
-      {"WordMatch_ForceCase", &F::WordMatch_ForceCase, &S::WordMatchForceCase},
-      {"WordMatch_IgnoreAlphaNumericWords", &F::WordMatch_IgnoreAlphaNumericWords,
-       &S::WordMatchIgnoreAlphaNumeric},
-      {"KeyWords_ForceSameCaseMatching", &F::KeyWords_ForceSameCaseMatching,
-       &S::KeywordsForceSameCase},
-      {"KeyWords_MatchScanType_CheckBOx", &F::KeyWords_MatchScanType_CheckBOx,
-       &S::KeywordsMatchScanType},
-      {"KeyWordMatch_Disable_Part_Keyword_Matches", &F::KeyWordMatch_Disable_Part_Keyword_Matches,
-       &S::KeywordsDisablePartMatches},
-      {"KeyWords_RemoveDoubleKeyWordListings", &F::KeyWords_RemoveDoubleKeyWordListings,
-       &S::KeywordsRemoveDoubles},
-      {"KeyWords_SortList", &F::KeyWords_SortList, &S::KeywordsSortList},
-      {"KeyWords_MinKeyWordMatches_Option", &F::KeyWords_MinKeyWordMatches_Option,
-       &S::KeywordsUseMinMatches},
-      {"PageReport_Export_WordCount_CheckBox", &F::PageReport_Export_WordCount_CheckBox,
-       &S::ReportExportWordCount},
-      {"ViewBody_ShowRAWBODY_CHeckBox", &F::ViewBody_ShowRAWBODY_CHeckBox, &S::ViewBodyShowRaw},
-      {"MetaTagEncodePref_SwapContentAndNameOrder_CheckBox",
-       &F::MetaTagEncodePref_SwapContentAndNameOrder_CheckBox, &S::EncodeSwapContentAndNameOrder},
-      {"MetaTagEncodePref_UseComaSpaceBetweenKeyWords_CheckBox",
-       &F::MetaTagEncodePref_UseComaSpaceBetweenKeyWords_CheckBox,
-       &S::EncodeComaSpaceBetweenKeywords},
+      BOX(HtmlDecodePref_IncludeTitleWithBody_CheckBox, DecodeIncludeTitleWithBody),
+      BOX(HtmlDecodePref_IncludeALTTEXT_CheckBox, DecodeIncludeAltText),
+      BOX(HtmlDecodePref_IncludeBODYTEXT_CheckBox, DecodeIncludeBodyText),
+      BOX(HtmlDecodePref_IncludeMetaDizzyWithBody_CheckBox, DecodeIncludeMetaDescriptionWithBody),
+      BOX(WordMatch_ForceCase, WordMatchForceCase),
+      BOX(WordMatch_IgnoreAlphaNumericWords, WordMatchIgnoreAlphaNumeric),
+      BOX(KeyWords_ForceSameCaseMatching, KeywordsForceSameCase),
+      BOX(KeyWords_MatchScanType_CheckBOx, KeywordsMatchScanType),
+      BOX(KeyWordMatch_Disable_Part_Keyword_Matches, KeywordsDisablePartMatches),
+      BOX(KeyWords_RemoveDoubleKeyWordListings, KeywordsRemoveDoubles),
+      BOX(KeyWords_SortList, KeywordsSortList),
+      BOX(KeyWords_MinKeyWordMatches_Option, KeywordsUseMinMatches),
+      BOX(PageReport_Export_WordCount_CheckBox, ReportExportWordCount),
+      BOX(ViewBody_ShowRAWBODY_CHeckBox, ViewBodyShowRaw),
+      BOX(MetaTagEncodePref_SwapContentAndNameOrder_CheckBox, EncodeSwapContentAndNameOrder),
+      BOX(MetaTagEncodePref_UseComaSpaceBetweenKeyWords_CheckBox, EncodeComaSpaceBetweenKeywords),
   };
+#undef BOX
   testing::FakePlatform platform;
   AppState s(platform);
   for (int16_t value : {int16_t{1}, int16_t{0}}) {
