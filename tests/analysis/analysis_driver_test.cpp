@@ -1,38 +1,11 @@
 #include "analysis/analysis_driver.h"
 
-#include <gtest/gtest.h>
-
-#include "../app/shell_program_folder.h"
-#include "app/app_state.h"
-#include "app/startup.h"
-#include "base/run_time_error.h"
-#include "document/document_cache.h"
-#include "fake_platform.h"
+#include "analysis_fixture.h"
 
 namespace zentrel::analysis {
 namespace {
 
-// The state as start-up leaves it: default settings and the shipped standard dictionary.
-struct Analyser {
-  testing::ShellProgramFolder folder;
-  testing::FakePlatform platform{folder.Path()};
-  AppState s{platform};
-
-  Analyser() { app::Form_Load(s); }
-  void File(const std::string& name) {
-    s.DocumentLength = document::DO_LOAD_File_TO_CACHE(s, testing::TestDataPath(name));
-    s.CurrentFileName = name;
-    Meta_Tag_KeyWord_Scan(s, s.CurrentFileName);
-  }
-  // A page typed into the source editor, then "Rescan".
-  void Page(const std::string& html) {
-    s.Form.Html_Document_Editor = html;
-    Command2_Click(s);
-  }
-  bool Has(const std::string& text) const {
-    return s.Form.ReportTextBox.find(text + "\r\n") != std::string::npos;
-  }
-};
+using Analyser = testing::Analysis;
 
 std::string KeywordPage(const std::string& keywords) {
   return "<html><head><meta name=\"keywords\" content=\"" + keywords +

@@ -1,34 +1,18 @@
 #include "analysis/keyword_list.h"
 
-#include <gtest/gtest.h>
-
-#include "app/app_state.h"
-#include "base/run_time_error.h"
+#include "analysis_fixture.h"
 #include "decode/meta_tag_table.h"
-#include "fake_platform.h"
 
 namespace zentrel::analysis {
 namespace {
 
-using Words = std::vector<std::string>;
+using Strings = std::vector<std::string>;
 
-struct Keywords {
-  testing::FakePlatform platform;
-  AppState s{platform};
-
-  explicit Keywords(const Words& words = {}, const std::vector<int16_t>& matches = {}) {
-    decode::Init_MetaTag_Table(s);
-    Reset_Keyword_List(s);
+struct Keywords : testing::Analysis {
+  explicit Keywords(const Strings& list = {}, const std::vector<int16_t>& matches = {}) {
     s.FilterWordsText = " and the  ";
-    s.KeywordsRemoveDoubles = 1;
-    s.KeywordsSortList = 1;
-    for (size_t k = 0; k < words.size(); ++k) {
-      Add_Word_To_KeyWord_buffer(s, words[k]);
-      if (k < matches.size())
-        s.KeywordBodyMatches[k] = matches[k];
-    }
+    testing::Analysis::Keywords(list, matches);
   }
-  Words List() const { return {s.KeywordList.begin(), s.KeywordList.begin() + s.KeywordCount}; }
 };
 
 // The page's own filter words stay; typed ones are left out (only as a whole phrase).
@@ -36,12 +20,12 @@ TEST(Add_Pages_MetaTag_keywords, EmptyPartsAndLoneCommasAreNeverAdded) {
   Keywords k;
   decode::Set_MetaTag_Value(k.s, "keywords", "a, b,, the,");
   Add_Pages_MetaTag_keywords(k.s);
-  EXPECT_EQ(k.List(), (Words{"a", "b", "the"}));
+  EXPECT_EQ(k.List(), (Strings{"a", "b", "the"}));
   EXPECT_EQ(k.s.KeywordSplitCount, 4);
 
   k.s.UsersKeywordsText = "  Widgets, the ,and the, the and,";
   Add_Users_Hand_Selected_Keywords_to_Pages_keywords(k.s);
-  EXPECT_EQ(k.List(), (Words{"a", "b", "the", "Widgets", "the and"}));
+  EXPECT_EQ(k.List(), (Strings{"a", "b", "the", "Widgets", "the and"}));
   EXPECT_EQ(k.s.UsersKeywordsText, "Widgets, the ,and the, the and");
 }
 
@@ -54,21 +38,21 @@ TEST(Check_Keywords_For_Doubles, ExactComparisonAndTheTextOfBlankedCopies) {
   EXPECT_EQ(k.s.KeywordDoublesText, "x\r\nx\r\n\r\n");
   k.s.KeywordTitleMatches[1] = 9;
   Remove_Keyword_Doubles(k.s);
-  EXPECT_EQ(k.List(), (Words{"x", "y"}));
+  EXPECT_EQ(k.List(), (Strings{"x", "y"}));
   EXPECT_EQ(k.s.KeywordBodyMatches[1], 2);
   EXPECT_EQ(k.s.KeywordTitleMatches[1], 9);  // title matches keep their places
 
   Keywords kept({"x", "x"});
   kept.s.KeywordsRemoveDoubles = 0;
   EXPECT_EQ(Check_Keywords_For_Doubles(kept.s), 1);
-  EXPECT_EQ(kept.List(), (Words{"x", "x"}));
+  EXPECT_EQ(kept.List(), (Strings{"x", "x"}));
 }
 
 TEST(Remove_Keyword_With_Low_Match_Counts, ThresholdFromTheDropDownText) {
   struct Case {
     int16_t option;
     std::string choice;
-    Words left;
+    Strings left;
   };
   const Case cases[] = {
       {1, " 1 Match", {"one", "twelve", "many"}},
@@ -91,13 +75,13 @@ TEST(Sort_Page_KeyWord_Strings, MostMatchesFirstAndEqualCountsReversed) {
   Keywords k({"a", "b", "c", "d"}, {2, 5, 2, 5});
   k.s.KeywordTitleMatches[0] = 7;
   Sort_Page_KeyWord_Strings(k.s);
-  EXPECT_EQ(k.List(), (Words{"d", "b", "c", "a"}));
+  EXPECT_EQ(k.List(), (Strings{"d", "b", "c", "a"}));
   EXPECT_EQ(k.s.KeywordTitleMatches[0], 7);  // not moved
 
   k.s.KeywordsSortList = 0;
   k.s.KeywordBodyMatches[3] = 9;
   Sort_Page_KeyWord_Strings(k.s);
-  EXPECT_EQ(k.List(), (Words{"d", "b", "c", "a"}));
+  EXPECT_EQ(k.List(), (Strings{"d", "b", "c", "a"}));
 
   k.s.KeywordsSortList = 1;
   k.s.KeywordBodyMatches[2] = 5001;

@@ -1,31 +1,16 @@
 #include "analysis/keyword_matching.h"
 
-#include <gtest/gtest.h>
-
-#include "analysis/keyword_list.h"
-#include "app/app_state.h"
-#include "fake_platform.h"
-#include "words/word_count.h"
+#include "analysis_fixture.h"
 
 namespace zentrel::analysis {
 namespace {
 
 using Counts = std::vector<int16_t>;
 
-struct Matching {
-  testing::FakePlatform platform;
-  AppState s{platform};
-
+struct Matching : testing::Analysis {
   Matching(const std::vector<std::string>& keywords, const std::vector<std::string>& words) {
-    Reset_Keyword_List(s);
-    for (const std::string& k : keywords)
-      Add_Word_To_KeyWord_buffer(s, k);
-    s.KeywordsForceSameCase = 1;
-    s.KeywordsMatchScanType = 1;
-    words::Init_Document_Word_List(s);
-    s.DocumentWords = words;
-    s.DocumentWords.emplace_back();  // the slot after the last word
-    s.DocumentWordCount = static_cast<int32_t>(words.size());
+    Keywords(keywords);
+    Words(words);
   }
   Counts Body() {
     Tally_Current_Documents_Keyword_Matches(s);

@@ -1,32 +1,25 @@
 #include "analysis/page_report.h"
 
-#include <gtest/gtest.h>
-
-#include "app/app_state.h"
-#include "fake_platform.h"
+#include "analysis_fixture.h"
 
 namespace zentrel::analysis {
 namespace {
-
-struct Writer {
-  testing::FakePlatform platform;
-  AppState s{platform};
-  Writer() { Reset_Report(s); }
-};
 
 TEST(Report_Center, HalvesGoToTheEvenNeighbour) {
   const std::pair<size_t, int32_t> pads[] = {{19, 28}, {21, 26}, {23, 26}, {20, 27},
                                              {0, 37},  {75, 0},  {77, 0}};
   for (const auto& [length, pad] : pads)
     EXPECT_EQ(Report_Center_Pad(length), pad) << length;
-  Writer w;
+  testing::Analysis w;
+  Reset_Report(w.s);
   Report_Center(w.s, std::string(80, 'x'));
   Report_Center(w.s, "abc");
   EXPECT_EQ(Report_Text(w.s), std::string(80, 'x') + "\r\n" + std::string(36, ' ') + "abc\r\n ");
 }
 
 TEST(Report, GrowsTheBufferByStepsAndLosesNothing) {
-  Writer w;
+  testing::Analysis w;
+  Reset_Report(w.s);
   const std::string line(98, 'r');  // 100 characters with CR LF
   std::string expected;
   for (int i = 0; i < 1000; ++i) {

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 #include "app/app_state.h"
 #include "fake_platform.h"
 #include "test_files.h"
@@ -55,21 +53,6 @@ TEST(Load_Word_Filter_Dictionary, ReadsListItemsAndSavesTheBox) {
   Save_Word_Filter_Dictionary(d.s, d.dir.File("saved.txt"));
   EXPECT_EQ(testing::ReadFile(d.dir.File("saved.txt")),
             "and\r\ncats and dogs\r\nx, y\r\nZebra\r\n\r\n");
-}
-
-TEST(Build_Filter_Word_Dictionary, StandardAndDefaultDictionaries) {
-  Dictionary d;
-  std::filesystem::create_directory(d.dir.path() / "dictionary");
-  testing::WriteFile(d.dir.File("dictionary/Zentrel_Standard.txt"), "the\r\nand\r\nof\r\n");
-  testing::WriteFile(d.dir.File("mine.txt"), "widget,gadget");
-  d.s.ProgramFolder = d.dir.path().string();
-  Build_Filter_Word_Dictionary(d.s);
-  EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "and\r\nof\r\nthe\r\n");
-  Load_Default_Word_Filters(d.s, "");  // no default chosen: the standard list stays
-  EXPECT_EQ(d.s.FilterCount, 3);
-  Load_Default_Word_Filters(d.s, d.dir.File("mine.txt"));
-  EXPECT_EQ(d.s.FilterDictionaryFile, d.dir.File("mine.txt"));
-  EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "gadget\r\nwidget\r\n");
 }
 
 }  // namespace
