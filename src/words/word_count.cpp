@@ -205,6 +205,13 @@ class SpellingTable {
 
 }  // namespace
 
+WordList& WordList::operator=(const std::vector<std::string>& words) {
+  Reset(words.size());
+  for (const std::string& w : words)
+    Append(w);
+  return *this;
+}
+
 void WordList::Reset(size_t slots) {
   chars_.clear();
   ends_.clear();

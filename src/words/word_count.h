@@ -2,7 +2,10 @@
 // Counting the page's words: the document word list in page order and the dictionary of
 // distinct words with their counts (filter words left out), sorted by count.
 
+#include <compare>
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -25,6 +28,54 @@ inline constexpr int kWordSortBuckets = 1001;  // occurrences 0..1000
 // only ever appended; the slots after the last stored word read as empty.
 class WordList {
  public:
+  // Reads the slots in order, as string views.
+  class const_iterator {
+   public:
+    using iterator_category = std::random_access_iterator_tag;
+    using value_type = std::string_view;
+    using difference_type = std::ptrdiff_t;
+    using pointer = void;
+    using reference = std::string_view;
+
+    const_iterator() = default;
+    const_iterator(const WordList* list, size_t i) : list_(list), i_(i) {}
+    std::string_view operator*() const { return (*list_)[i_]; }
+    std::string_view operator[](difference_type n) const { return *(*this + n); }
+    const_iterator& operator++() { return ++i_, *this; }
+    const_iterator operator++(int) { return {list_, i_++}; }
+    const_iterator& operator--() { return --i_, *this; }
+    const_iterator operator--(int) { return {list_, i_--}; }
+    const_iterator& operator+=(difference_type n) {
+      i_ = static_cast<size_t>(static_cast<difference_type>(i_) + n);
+      return *this;
+    }
+    const_iterator& operator-=(difference_type n) { return *this += -n; }
+    friend const_iterator operator+(const_iterator it, difference_type n) { return it += n; }
+    friend const_iterator operator+(difference_type n, const_iterator it) { return it += n; }
+    friend const_iterator operator-(const_iterator it, difference_type n) { return it -= n; }
+    friend difference_type operator-(const const_iterator& a, const const_iterator& b) {
+      return static_cast<difference_type>(a.i_) - static_cast<difference_type>(b.i_);
+    }
+    friend bool operator==(const const_iterator& a, const const_iterator& b) {
+      return a.i_ == b.i_;
+    }
+    friend auto operator<=>(const const_iterator& a, const const_iterator& b) {
+      return a.i_ <=> b.i_;
+    }
+
+   private:
+    const WordList* list_ = nullptr;
+    size_t i_ = 0;
+  };
+
+  WordList() = default;
+  // The words in order, one slot each.
+  WordList& operator=(const std::vector<std::string>& words);
+  const_iterator begin() const { return {this, 0}; }
+  const_iterator end() const { return {this, slots_}; }
+  // Appends the word after the stored ones, like Append.
+  void emplace_back(std::string_view word = {}) { Append(word); }
+
   // Slots 0..slots-1, all empty.
   void Reset(size_t slots);
   // More (or fewer) slots; the stored words stay.

@@ -1,78 +1,16 @@
-// Saving the report and the body text, the additional keywords box, two option boxes.
+// Saving the report and the body text, and the additional keywords box.
 
 #include "analysis/report_export.h"
 
-#include <gtest/gtest.h>
-
 #include <cerrno>
-#include <filesystem>
 
-#include "app/app_state.h"
+#include "analysis_fixture.h"
 #include "app/control_table.h"
-#include "fake_platform.h"
-#include "test_files.h"
 
 namespace zentrel::analysis {
 namespace {
 
-using testing::FakePlatform;
 using testing::ReadFile;
-using testing::TempFolder;
-
-size_t Files_In(const std::filesystem::path& folder) {
-  size_t n = 0;
-  for (auto it = std::filesystem::directory_iterator(folder);
-       it != std::filesystem::directory_iterator(); ++it)
-    ++n;
-  return n;
-}
-
-TEST(PageReport_SAVEAS_Click, WritesTheReportAsItStands) {
-  TempFolder folder;
-  FakePlatform platform;
-  AppState s(platform);
-  PageReport_SAVEAS_Click(s);  // no report yet: no dialog at all
-  EXPECT_TRUE(platform.dialogs.empty());
-
-  s.Form.ReportTextBox = "Report\r\n=====\r\n ";
-  platform.AnswerSave(folder.File("report.txt"));
-  ASSERT_TRUE(app::Dispatch(s, "PageReport_SAVEAS"));
-  EXPECT_EQ(ReadFile(folder.File("report.txt")), "Report\r\n=====\r\n ");
-  ASSERT_EQ(platform.dialogs.size(), 1u);
-  EXPECT_EQ(platform.dialogs[0].Filter, "(*.txt)|*.txt|");
-  EXPECT_EQ(platform.dialogs[0].FilterIndex, 1);
-  EXPECT_EQ(platform.dialogs[0].DefaultExt, ".txt");
-
-  platform.CancelDialog();
-  s.Form.ReportTextBox = "changed";
-  ASSERT_TRUE(app::Dispatch(s, "PageReport_SAVEAS"));
-  EXPECT_EQ(ReadFile(folder.File("report.txt")), "Report\r\n=====\r\n ");
-  EXPECT_TRUE(platform.messages.empty());
-}
-
-TEST(ViewBody_SaveAs_Click, AnEmptyBodyGivesAnEmptyFile) {
-  TempFolder folder;
-  FakePlatform platform;
-  AppState s(platform);
-  platform.AnswerSave(folder.File("body.txt"));
-  ASSERT_TRUE(app::Dispatch(s, "ViewBody_SaveAs"));
-  ASSERT_TRUE(std::filesystem::exists(folder.File("body.txt")));
-  EXPECT_EQ(ReadFile(folder.File("body.txt")), "");
-
-  s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox = "garden tools";
-  platform.AnswerSave(folder.File("body.txt"));
-  ViewBody_SaveAs_Click(s);
-  EXPECT_EQ(ReadFile(folder.File("body.txt")), "garden tools");
-}
-
-// A folder the program may not write into, whoever runs the tests.
-class ReadOnlyFolder : public file_io::FileSystem {
- public:
-  int MakeTemp(std::string&) override {
-    errno = EACCES;
-    return -1;
-  }
-};
 
 // A write that fails only at the last step, after the temporary file was made.
 class FailingRename : public file_io::FileSystem {
@@ -83,54 +21,59 @@ class FailingRename : public file_io::FileSystem {
   }
 };
 
-TEST(Do_Save_REPORT, AFailedWriteIsShownAndLeavesNothingBehind) {
-  TempFolder folder;
-  FakePlatform platform;
-  ReadOnlyFolder readOnly;
-  AppState s(platform, readOnly);
-  s.Form.ReportTextBox = "Report";
-  platform.AnswerSave(folder.File("report.txt"));
-  PageReport_SAVEAS_Click(s);
-  ASSERT_EQ(platform.messages.size(), 1u);
-  EXPECT_NE(platform.messages[0].find(folder.File("report.txt")), std::string::npos);
-  EXPECT_EQ(Files_In(folder.path()), 0u);
+struct Export : testing::Analysis {
+  std::string report = folder.File("report.txt");
+};
 
-  testing::WriteFile(folder.File("report.txt"), "old report");
+TEST(PageReport_SAVEAS_Click, WritesTheReportAsItStands) {
+  Export e;
+  PageReport_SAVEAS_Click(e.s);  // no report yet: no dialog at all
+  e.s.Form.ReportTextBox = "Report\r\n ";
+  e.platform.AnswerSave(e.report);
+  ASSERT_TRUE(app::Dispatch(e.s, "PageReport_SAVEAS"));
+  EXPECT_EQ(ReadFile(e.report), "Report\r\n ");
+  ASSERT_EQ(e.platform.dialogs.size(), 1u);
+  EXPECT_EQ(e.platform.dialogs[0].Filter, "(*.txt)|*.txt|");
+  EXPECT_EQ(e.platform.dialogs[0].DefaultExt, ".txt");
+
+  e.platform.CancelDialog();
+  e.s.Form.ReportTextBox = "changed";
+  PageReport_SAVEAS_Click(e.s);
+  EXPECT_EQ(ReadFile(e.report), "Report\r\n ");
+}
+
+TEST(ViewBody_SaveAs_Click, AnEmptyBodyGivesAnEmptyFile) {
+  Export e;
+  testing::WriteFile(e.report, "old");
+  e.platform.AnswerSave(e.report);
+  ASSERT_TRUE(app::Dispatch(e.s, "ViewBody_SaveAs"));
+  EXPECT_EQ(ReadFile(e.report), "");
+  e.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox = "garden tools";
+  e.platform.AnswerSave(e.report);
+  ViewBody_SaveAs_Click(e.s);
+  EXPECT_EQ(ReadFile(e.report), "garden tools");
+}
+
+TEST(Do_Save_REPORT, AFailedWriteIsShownAndLeavesTheOldFile) {
+  Export e;
   FailingRename failing;
-  AppState s2(platform, failing);
-  s2.Form.ReportTextBox = "new report";
-  platform.AnswerSave(folder.File("report.txt"));
-  Do_Save_REPORT(s2);
-  EXPECT_EQ(platform.messages.size(), 2u);
-  EXPECT_EQ(ReadFile(folder.File("report.txt")), "old report");
-  EXPECT_EQ(Files_In(folder.path()), 1u);
+  AppState s(e.platform, failing);
+  testing::WriteFile(e.report, "old report");
+  s.Form.ReportTextBox = "new report";
+  e.platform.AnswerSave(e.report);
+  Do_Save_REPORT(s);
+  ASSERT_EQ(e.platform.messages.size(), 1u);
+  EXPECT_NE(e.platform.messages[0].find(e.report), std::string::npos);
+  EXPECT_EQ(ReadFile(e.report), "old report");
 }
 
 TEST(Users_METATAGS_TextBox, TheBoxIsTheUsersKeywordsAndClearEmptiesBoth) {
-  FakePlatform platform;
-  AppState s(platform);
-  Set_Users_METATAGS_TextBox(s, "rake, hoe,");
-  EXPECT_EQ(s.UsersKeywordsText, "rake, hoe,");
-  ASSERT_TRUE(app::Dispatch(s, "Users_METATAGS_Clear_Command"));
-  EXPECT_EQ(s.Form.Users_METATAGS_TextBox, "");
-  EXPECT_EQ(s.UsersKeywordsText, "");
-}
-
-TEST(ReportOptions, CheckBoxesSetTheirSettingsOnly) {
-  FakePlatform platform;
-  AppState s(platform);
-  s.Form.PageReport_Export_WordCount_CheckBox = 1;
-  ASSERT_TRUE(app::Dispatch(s, "PageReport_Export_WordCount_CheckBox"));
-  EXPECT_EQ(s.ReportExportWordCount, 1);
-  EXPECT_EQ(s.ViewBodyShowRaw, 0);
-  s.Form.ViewBody_ShowRAWBODY_CHeckBox = 1;
-  ASSERT_TRUE(app::Dispatch(s, "ViewBody_ShowRAWBODY_CHeckBox"));
-  EXPECT_EQ(s.ViewBodyShowRaw, 1);
-  s.Form.PageReport_Export_WordCount_CheckBox = 0;
-  PageReport_Export_WordCount_CheckBox_Click(s);
-  EXPECT_EQ(s.ReportExportWordCount, 0);
-  EXPECT_EQ(s.ViewBodyShowRaw, 1);
-  EXPECT_TRUE(s.Form.ReportTextBox.empty());  // no analysis ran
+  Export e;
+  Set_Users_METATAGS_TextBox(e.s, "rake, hoe,");
+  EXPECT_EQ(e.s.UsersKeywordsText, "rake, hoe,");
+  ASSERT_TRUE(app::Dispatch(e.s, "Users_METATAGS_Clear_Command"));
+  EXPECT_EQ(e.s.Form.Users_METATAGS_TextBox, "");
+  EXPECT_EQ(e.s.UsersKeywordsText, "");
 }
 
 }  // namespace

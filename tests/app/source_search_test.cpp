@@ -11,93 +11,69 @@
 namespace zentrel::app {
 namespace {
 
-using testing::FakePlatform;
-
-struct Editor {
-  FakePlatform platform;
-  AppState s{platform};
-
-  explicit Editor(const std::string& page) { Show(page); }
-  // The page as loaded: the editor shows the same text as the cache.
-  void Show(const std::string& page) {
-    s.DocumentText = page;
-    s.DocumentBytes.assign(page.begin(), page.end());
-    s.DocumentBytes.push_back(0);
-    s.DocumentLength = static_cast<int32_t>(page.size());
-    s.Form.Html_Document_Editor = page;
-  }
-  // Runs a button; returns the selection as "start/length".
-  std::string Click(const char* button, const std::string& search) {
-    s.Form.Html_Document_Editor_SearchText = search;
-    EXPECT_TRUE(Dispatch(s, button));
-    return std::to_string(s.Form.Html_Document_Editor_SelStart) + "/" +
-           std::to_string(s.Form.Html_Document_Editor_SelLength);
-  }
-  std::string First(const std::string& search) {
-    return Click("Html_Document_Editor_Find", search);
-  }
-  std::string Next(const std::string& search) {
-    return Click("Html_Document_Editor_DOFindNext", search);
-  }
+// One click of a search button and the selection it leaves as "start/length". A step may
+// first replace the page (as loaded, or only edited) or turn "Match Case" on.
+struct Step {
+  bool next;
+  std::string search, selection;
+  std::string page = "";
+  bool onlyEdited = false;
+  int16_t matchCase = 0;
 };
 
-TEST(HtmlEdit_Search_For_String, MatchCaseDecidesWhetherLetterCaseCounts) {
-  Editor e("<html><title>Tools</title>");
-  EXPECT_EQ(e.First("TITLE"), "7/5");
-  EXPECT_EQ(e.s.EditorFindPosition, 9);  // one past the 1-based match
-  EXPECT_EQ(e.s.EditorFindText, "title");
-  // Changing only the case with "Match Case" off is the same search: it goes on.
-  EXPECT_EQ(e.Next("Title"), "20/5");
-
-  e.s.Form.EditHtml_SearchCaseFlag = 1;
-  EXPECT_EQ(e.First("TITLE"), "0/0");  // not found: caret at the top
-  EXPECT_EQ(e.s.EditorFindPosition, 1);
-  EXPECT_EQ(e.First("Tools"), "13/5");
+void Search(const std::string& name, const std::string& page, const std::vector<Step>& steps) {
+  testing::FakePlatform platform;
+  AppState s(platform);
+  auto show = [&s](const std::string& text, bool onlyEdited) {
+    s.Form.Html_Document_Editor = text;
+    if (onlyEdited)
+      return;
+    s.DocumentText = text;
+    s.DocumentBytes.assign(text.begin(), text.end());
+    s.DocumentBytes.push_back(0);
+    s.DocumentLength = static_cast<int32_t>(text.size());
+  };
+  show(page, false);
+  int n = 0;
+  for (const Step& step : steps) {
+    SCOPED_TRACE(name + " step " + std::to_string(++n));
+    if (!step.page.empty())
+      show(step.page, step.onlyEdited);
+    s.Form.EditHtml_SearchCaseFlag = step.matchCase;
+    s.Form.Html_Document_Editor_SearchText = step.search;
+    ASSERT_TRUE(
+        Dispatch(s, step.next ? "Html_Document_Editor_DOFindNext" : "Html_Document_Editor_Find"));
+    EXPECT_EQ(std::to_string(s.Form.Html_Document_Editor_SelStart) + "/" +
+                  std::to_string(s.Form.Html_Document_Editor_SelLength),
+              step.selection);
+  }
 }
 
-TEST(HtmlEdit_Search_For_String, FindNextWrapsAndANewTextStartsAtTheTop) {
-  Editor e("ab ab ab b");
-  EXPECT_EQ(e.First("ab"), "0/2");
-  EXPECT_EQ(e.Next("ab"), "3/2");
-  EXPECT_EQ(e.Next("ab"), "6/2");
-  EXPECT_EQ(e.Next("ab"), "0/2");  // wrapped
-  EXPECT_EQ(e.Next("ab"), "3/2");
-  EXPECT_EQ(e.Next("b"), "1/1");  // a new text: from the top, not from position 4
-}
-
-TEST(HtmlEdit_Search_For_String, OverlappingOccurrencesAreEachFound) {
-  Editor e("aaa");
-  EXPECT_EQ(e.First("aa"), "0/2");
-  EXPECT_EQ(e.Next("aa"), "1/2");
-  EXPECT_EQ(e.Next("aa"), "0/2");
-}
-
-TEST(HtmlEdit_Search_For_String, EmptySearchTextChangesNothingAndRestarts) {
-  Editor e("one two one");
-  EXPECT_EQ(e.First("one"), "0/3");
-  EXPECT_EQ(e.Next("one"), "8/3");
-  EXPECT_EQ(e.Next(""), "8/3");
-  EXPECT_EQ(e.s.EditorFindPosition, 0);
-  EXPECT_EQ(e.Next("one"), "0/3");  // behaves as a first search
-}
-
-TEST(HtmlEdit_Search_For_String, APageThatLostTheTextNeverGivesANegativeSelection) {
-  Editor e("xx needle yy");
-  EXPECT_EQ(e.First("needle"), "3/6");
-  e.Show("xx yy xx yy xx");  // edited since the last click
-  EXPECT_EQ(e.Next("needle"), "0/0");
-  EXPECT_EQ(e.s.EditorFindPosition, 1);
-  // A stored start past the end of a shorter page restarts at the top.
-  e.Show("needle");
-  e.s.EditorFindPosition = 50;
-  EXPECT_EQ(e.Next("needle"), "0/6");
-}
-
-TEST(Html_Document_Editor_Find_Click, SearchesTheTextAsEdited) {
-  Editor e("<p>old</p>");
-  e.s.Form.Html_Document_Editor = "<p>new</p>";
-  EXPECT_EQ(e.First("new"), "3/3");
-  EXPECT_EQ(e.s.DocumentText, "<p>new</p>");
+TEST(HtmlEdit_Search_For_String, FindFirstAndFindNext) {
+  // Without "Match Case" a change of case only is the same search and goes on.
+  Search("case", "<html><title>Tools</title>",
+         {{false, "TITLE", "7/5"},
+          {true, "Title", "20/5"},
+          {false, "TITLE", "0/0", "", false, 1},  // not found: caret at the top
+          {false, "Tools", "13/5", "", false, 1}});
+  Search("wrap", "ab ab ab b",
+         {{false, "ab", "0/2"},
+          {true, "ab", "3/2"},
+          {true, "ab", "6/2"},
+          {true, "ab", "0/2"},
+          {true, "b", "1/1"}});  // a new text starts at the top
+  Search("overlap", "aaa", {{false, "aa", "0/2"}, {true, "aa", "1/2"}, {true, "aa", "0/2"}});
+  Search("empty", "one two one",
+         {{false, "one", "0/3"},
+          {true, "one", "8/3"},
+          {true, "", "8/3"},       // nothing changes
+          {true, "one", "0/3"}});  // and the next search starts again
+  // A page that lost the text since the last click never gives a negative selection.
+  Search("lost", "xx needle yy",
+         {{false, "needle", "3/6"}, {true, "needle", "0/0", "xx yy xx yy xx"}});
+  Search("shorter", "xx needle yy", {{false, "needle", "3/6"}, {true, "needle", "0/6", "needle"}});
+  // The text is searched as edited, not as loaded.
+  Search("edited", "<p>old</p>", {{false, "new", "3/3", "<p>new</p>", true}});
 }
 
 }  // namespace

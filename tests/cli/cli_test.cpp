@@ -37,12 +37,18 @@ const char* kSanePage =
 }  // namespace
 
 TEST(Cli, BadUsageExitsTwoWithAMessage) {
-  EXPECT_EQ(RunCli({}).status, 2);
-  EXPECT_EQ(RunCli({"report"}).status, 2);
-  EXPECT_EQ(RunCli({"frobnicate", "x.html"}).status, 2);
-  EXPECT_EQ(RunCli({"report", "--bogus", "x.html"}).status, 2);
-  EXPECT_EQ(RunCli({"rebuild", "x.html"}).status, 2);  // no -o
-  EXPECT_EQ(RunCli({"report", "--force", "x.html"}).status, 2);
+  const std::vector<std::string> usages[] = {{},
+                                             {"report"},
+                                             {"frobnicate", "x.html"},
+                                             {"report", "--bogus", "x.html"},
+                                             {"rebuild", "x.html"},  // no -o
+                                             {"report", "--force", "x.html"},
+                                             {"rebuild", "x.html", "-o", "y", "--set", "title=x"}};
+  for (const auto& args : usages) {
+    Result r = RunCli(args);
+    EXPECT_EQ(r.status, 2) << args.size();
+    EXPECT_FALSE(r.err.empty());
+  }
   Result help = RunCli({"--help"});
   EXPECT_EQ(help.status, 0);
   EXPECT_NE(help.out.find("zentrel-cli rebuild"), std::string::npos);
@@ -96,17 +102,11 @@ TEST(Cli, AnalyseWritesOneJsonLinePerPageAndReportsRunTimeErrors) {
   Result r =
       RunCli({"analyse", "--keywords", "walking", dir.File("flood.html"), dir.File("good.html")});
   EXPECT_EQ(r.status, 1);
-  std::istringstream lines(r.out);
-  std::string first, second;
-  std::getline(lines, first);
-  std::getline(lines, second);
-  EXPECT_NE(first.find("\"error\":\"Run-time error '9': Subscript out of range\""),
-            std::string::npos)
-      << first;
-  EXPECT_NE(second.find("\"error\":null"), std::string::npos) << second;
-  EXPECT_NE(second.find("\"title\":\"Red Shoes\""), std::string::npos) << second;
-  EXPECT_NE(second.find("walking"), std::string::npos) << "the additional keyword is analysed";
-  EXPECT_NE(second.find("\"meta_fields\":[\"Red Shoes\","), std::string::npos) << second;
+  const size_t second = r.out.find('\n') + 1;
+  EXPECT_LT(r.out.find("\"error\":\"Run-time error '9': Subscript out of range\""), second);
+  for (const char* part :
+       {"\"error\":null", "\"title\":\"Red Shoes\"", "walking", "\"meta_fields\":[\"Red Shoes\","})
+    EXPECT_NE(r.out.find(part, second), std::string::npos) << part;
 }
 
 TEST(Cli, RebuildWritesTheFieldsAndRefusesSectionErrorsWithoutForce) {
@@ -133,9 +133,6 @@ TEST(Cli, RebuildWritesTheFieldsAndRefusesSectionErrorsWithoutForce) {
       RunCli({"rebuild", dir.File("bad.html"), "-o", dir.File("bad-out.html"), "--force"}).status,
       0);
   EXPECT_TRUE(fs::exists(dir.File("bad-out.html")));
-  EXPECT_EQ(RunCli({"rebuild", dir.File("page.html"), "-o", dir.File("x.html"), "--set", "title=x"})
-                .status,
-            2);
 }
 
 TEST(Cli, TheRealBinaryRuns) {

@@ -10,91 +10,78 @@
 namespace zentrel::document {
 namespace {
 
-using testing::FakePlatform;
-using testing::TempFolder;
-
-void Put(AppState& s, const std::string& page) {
-  s.DocumentBytes.assign(page.begin(), page.end());
-  s.DocumentBytes.push_back(0);
-  s.DocumentLength = static_cast<int32_t>(page.size());
-}
-
-std::string Bytes(const AppState& s) {
-  return std::string(s.DocumentBytes.begin(), s.DocumentBytes.end());
-}
+struct Cache {
+  testing::FakePlatform platform;
+  AppState s{platform};
+  void Put(const std::string& page) {
+    s.DocumentBytes.assign(page.begin(), page.end());
+    s.DocumentBytes.push_back(0);
+    s.DocumentLength = static_cast<int32_t>(page.size());
+  }
+  std::string Bytes() const { return std::string(s.DocumentBytes.begin(), s.DocumentBytes.end()); }
+};
 
 TEST(DO_LOAD_File_TO_CACHE, BytesAndTextAreIdenticalWithOneZeroPastTheEnd) {
-  FakePlatform platform;
-  AppState s(platform);
-  TempFolder folder;
+  Cache c;
+  testing::TempFolder folder;
   std::string binary;
   for (int i = 0; i < 512; ++i)
     binary.push_back(static_cast<char>(i % 256));
-  testing::WriteFile(folder.File("binary.htm"), binary);
-  testing::WriteFile(folder.File("empty.htm"), "");
-  for (const auto& [path, content] : {std::pair{testing::TestDataPath("decode_page.html"),
-                                                testing::ReadTestData("decode_page.html")},
-                                      std::pair{folder.File("binary.htm"), binary},
-                                      std::pair{folder.File("empty.htm"), std::string()}}) {
-    EXPECT_EQ(DO_LOAD_File_TO_CACHE(s, path), static_cast<int32_t>(content.size()));
-    EXPECT_EQ(Bytes(s), content + '\0');
-    EXPECT_EQ(s.DocumentText, content);
-    EXPECT_EQ(s.Form.Html_Document_Editor, content);
+  for (const std::string& content : {binary, std::string()}) {
+    testing::WriteFile(folder.File("page.htm"), content);
+    EXPECT_EQ(DO_LOAD_File_TO_CACHE(c.s, folder.File("page.htm")),
+              static_cast<int32_t>(content.size()));
+    EXPECT_EQ(c.Bytes(), content + '\0');
+    EXPECT_EQ(c.s.Form.Html_Document_Editor, content);
   }
-  EXPECT_THROW(DO_LOAD_File_TO_CACHE(s, folder.File("missing.htm")), file_io::FileError);
-  EXPECT_THROW(DO_LOAD_File_TO_CACHE(s, folder.path().string()), file_io::FileError);
-  EXPECT_EQ(s.DocumentBytes.size(), 1u);  // a failed read leaves the cache as it was
+  EXPECT_THROW(DO_LOAD_File_TO_CACHE(c.s, folder.File("missing.htm")), file_io::FileError);
+  EXPECT_EQ(c.s.DocumentBytes.size(), 1u);  // a failed read leaves the cache as it was
 }
 
 TEST(Reload_File_From_Memory_TO_Cache, TakesEditedTextWithFourSpareZeros) {
-  FakePlatform platform;
-  AppState s(platform);
-  Put(s, "abc");
-  s.DocumentText = s.Form.Html_Document_Editor = "abc";
-  EXPECT_EQ(Reload_File_From_Memory_TO_Cache(s), 3);
-  EXPECT_EQ(s.DocumentBytes.size(), 4u);
-  s.Form.Html_Document_Editor = "wxyz!";
-  EXPECT_EQ(Reload_File_From_Memory_TO_Cache(s), 5);
-  EXPECT_EQ(Bytes(s), std::string("wxyz!") + std::string(5, '\0'));
-  EXPECT_EQ(s.DocumentBytesAllocated, 9);
-  EXPECT_EQ(s.DocumentText, "wxyz!");
-  EXPECT_EQ(platform.busyCount, 1);
-  EXPECT_EQ(platform.busyDepth, 0);
+  Cache c;
+  c.Put("abc");
+  c.s.Form.Html_Document_Editor = "wxyz!";
+  EXPECT_EQ(Reload_File_From_Memory_TO_Cache(c.s), 5);
+  EXPECT_EQ(c.Bytes(), std::string("wxyz!") + std::string(5, '\0'));
+  EXPECT_EQ(c.s.DocumentText, "wxyz!");
+  EXPECT_EQ(c.platform.busyCount, 1);
+  EXPECT_EQ(c.platform.busyDepth, 0);
 }
 
 TEST(Html_Clear_Cache_Section, BlanksStretchAndUpTo33BytesOfFollowingWhiteSpace) {
-  FakePlatform platform;
-  AppState s(platform);
-  Put(s, "<meta x>\r\n  <p>");
-  Html_Clear_Cache_Section(s, 0, 8);
-  EXPECT_EQ(Bytes(s), std::string(12, '\0') + "<p>" + '\0');
-  Put(s, "ab \t\nc");  // start = end: the look-ahead still runs
-  Html_Clear_Cache_Section(s, 2, 2);
-  EXPECT_EQ(Bytes(s), "ab" + std::string(3, '\0') + "c" + '\0');
-  Put(s, "x" + std::string(40, ' ') + "y");
-  Html_Clear_Cache_Section(s, 0, 1);
-  EXPECT_EQ(Bytes(s), std::string(34, '\0') + std::string(7, ' ') + "y" + '\0');
-  Put(s, "ab   ");
-  s.DocumentBytes.push_back(' ');  // past DocumentLength: never touched
-  Html_Clear_Cache_Section(s, 0, 2);
-  EXPECT_EQ(Bytes(s), std::string(6, '\0') + " ");
-  Put(s, "a b");
-  Html_Clear_Cache_Section(s, -1, 1);
-  Html_Clear_Cache_Section(s, 0, -1);
-  EXPECT_EQ(Bytes(s), std::string("a b") + '\0');
+  struct Case {
+    std::string page;
+    int32_t from, to;
+    std::string after;
+  };
+  const Case cases[] = {
+      {"<meta x>\r\n  <p>", 0, 8, std::string(12, '\0') + "<p>"},
+      {"ab \t\nc", 2, 2, "ab" + std::string(3, '\0') + "c"},  // start = end: still looks ahead
+      {"x" + std::string(40, ' ') + "y", 0, 1, std::string(34, '\0') + std::string(7, ' ') + "y"},
+      {"ab   ", 0, 2, std::string(5, '\0')},
+      {"a b", -1, 1, "a b"},
+      {"a b", 0, -1, "a b"},
+  };
+  for (const Case& k : cases) {
+    SCOPED_TRACE(k.page);
+    Cache c;
+    c.Put(k.page);
+    c.s.DocumentBytes.push_back(' ');  // past DocumentLength: never touched
+    Html_Clear_Cache_Section(c.s, k.from, k.to);
+    EXPECT_EQ(c.Bytes(), k.after + '\0' + ' ');
+  }
 }
 
 TEST(Find_String_Filecache, IsCaseSensitiveAndMustEndBeforeTheLastByte) {
-  FakePlatform platform;
-  AppState s(platform);
-  Put(s, "<Head><head>end");
-  EXPECT_EQ(Find_String_Filecache(s, "<head", 0), 6);
-  EXPECT_EQ(Find_String_Filecache(s, "<Head", 1), -1);
-  EXPECT_EQ(Find_String_Filecache(s, "en", 0), 12);
-  EXPECT_EQ(Find_String_Filecache(s, "end", 0), -1);
-  EXPECT_EQ(Get_String_From_CacheAtPos(s, 12, 14), "end");
-  EXPECT_EQ(Get_String_From_CacheAtPos(s, 5, 4), "");
-  EXPECT_THROW(Get_String_From_CacheAtPos(s, 0, 99), RunTimeError);
+  Cache c;
+  c.Put("<Head><head>end");
+  EXPECT_EQ(Find_String_Filecache(c.s, "<head", 0), 6);
+  EXPECT_EQ(Find_String_Filecache(c.s, "<Head", 1), -1);
+  EXPECT_EQ(Find_String_Filecache(c.s, "en", 0), 12);
+  EXPECT_EQ(Find_String_Filecache(c.s, "end", 0), -1);
+  EXPECT_EQ(Get_String_From_CacheAtPos(c.s, 12, 14), "end");
+  EXPECT_THROW(Get_String_From_CacheAtPos(c.s, 0, 99), RunTimeError);
 }
 
 }  // namespace

@@ -24,6 +24,7 @@
 namespace zentrel {
 
 namespace fs = std::filesystem;
+using namespace std::string_literals;
 using testing::FakePlatform;
 using testing::TempFolder;
 using testing::WriteFile;
@@ -86,7 +87,7 @@ const std::vector<Case>& Cases() {
       {"one word 1000 times", [] { return Wrap(Repeat("widget ", 1000)); }, Outcome::Report},
       {"40000 distinct words", [] { return Distinct_Words(40000); }, Outcome::Overflow},
       {"32767 distinct words", [] { return Distinct_Words(32767); }, Outcome::Report},
-      {"NUL bytes", [] { return Wrap(std::string("a\0b\0c words\0", 13)); }, Outcome::Report},
+      {"NUL bytes", [] { return Wrap("a\0b\0c words\0"s); }, Outcome::Report},
       {"invalid UTF-8", [] { return Wrap("caf\xC3 \xFF\xFE words \xE2\x82"); }, Outcome::Report},
       {"UTF-16 with a byte order mark",
        [] {
@@ -124,13 +125,10 @@ const std::vector<Case>& Cases() {
       {"an empty file", [] { return std::string(); }, Outcome::Nothing},
       {"a one-byte file", [] { return std::string("x"); }, Outcome::Report},
       {"a PNG renamed .html",
-       [] {
-         return std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\0\x10", 24) +
-                Repeat("\x7f<\x01>", 4000);
-       },
+       [] { return "\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\0\x10"s + Repeat("\x7f<\x01>", 4000); },
        Outcome::Report},
       {"a ZIP renamed .html",
-       [] { return std::string("PK\x03\x04\x14\0\0\0\x08\0", 10) + Repeat("\xc3>\x8b<\0", 4000); },
+       [] { return "PK\x03\x04\x14\0\0\0\x08\0"s + Repeat("\xc3>\x8b<\0", 4000); },
        Outcome::Report},
       {"100000 unclosed titles", [] { return Wrap(Repeat("<title>", 100000)); }, Outcome::Report},
       {"100000 unclosed scripts", [] { return Wrap(Repeat("<script>", 100000)); }, Outcome::Report},

