@@ -130,51 +130,44 @@ void AddToDictionary(AppState& s, std::string w, const FilterLookup& lookup) {
 constexpr int32_t kSkippedWord = -2;  // not a letter word: neither listed nor counted
 constexpr int32_t kFilterWord = -1;   // listed, not counted
 
-// Open addressing over the spellings seen so far. The first 16 bytes of each spelling are
-// kept in its entry, so a lookup of a short word touches the table alone; longer spellings
-// compare their rest in the stripped text, which does not change during the count.
+// Open addressing over the spellings seen so far, sized for the cache: a page of half a
+// million words repeats some twenty thousand spellings in no order, so each lookup is a
+// random access, and small tables keep those in the cache. The slots hold entry numbers; an
+// entry holds its spelling's first 8 bytes, its place in the stripped text (which does not
+// change during the count) and the outcome.
 class SpellingTable {
  public:
   struct Entry {
-    uint64_t hash = 0;
-    uint64_t head0 = 0, head1 = 0;  // the first 16 bytes, zero-padded
-    const char* data = nullptr;     // nullptr: a free slot
+    uint32_t head0 = 0, head1 = 0;  // the first 8 bytes, zero-padded
+    uint32_t offset = 0;            // where the spelling first stood in the text
     uint32_t size = 0;
     int32_t outcome = 0;
   };
 
-  SpellingTable() : slots_(kStartSlots) {}
+  explicit SpellingTable(std::string_view text) : text_(text), slots_(kStartSlots, 0) {
+    entries_.reserve(kStartSlots / 2);
+  }
 
-  // The entry of w; a new one has its key set and `fresh` true.
+  // The entry of w, a view into the text (valid until the next call); a new one has `fresh`.
   Entry& Find(std::string_view w, bool& fresh) {
-    if ((used_ + 1) * 2 > slots_.size())
+    if ((entries_.size() + 1) * 2 > slots_.size())
       Grow();
-    char head[kHead] = {};
-    const size_t n = w.size() < kHead ? w.size() : kHead;
-    for (size_t i = 0; i < n; ++i)
-      head[i] = w[i];
-    uint64_t head0, head1;
-    std::memcpy(&head0, head, 8);
-    std::memcpy(&head1, head + 8, 8);
-    uint64_t hash = (head0 * 0xFF51AFD7ED558CCDULL) ^ (head1 * 0xC4CEB9FE1A85EC53ULL) ^ w.size();
-    for (size_t i = kHead; i < w.size(); ++i)
-      hash = (hash ^ static_cast<unsigned char>(w[i])) * 0x100000001B3ULL;
-    hash ^= hash >> 29;
-    hash *= 0x9E3779B97F4A7C15ULL;
-    hash ^= hash >> 32;
-
+    uint32_t head0, head1;
+    const uint64_t hash = Hash(w, head0, head1);
     const size_t mask = slots_.size() - 1;
     for (size_t i = static_cast<size_t>(hash) & mask;; i = (i + 1) & mask) {
-      Entry& e = slots_[i];
-      if (e.data == nullptr) {
-        e = {hash, head0, head1, w.data(), static_cast<uint32_t>(w.size()), 0};
-        ++used_;
+      const uint32_t slot = slots_[i];
+      if (slot == 0) {
+        const auto offset = static_cast<uint32_t>(w.data() - text_.data());
+        entries_.push_back({head0, head1, offset, static_cast<uint32_t>(w.size()), 0});
+        slots_[i] = static_cast<uint32_t>(entries_.size());
         fresh = true;
-        return e;
+        return entries_.back();
       }
-      if (e.hash == hash && e.size == w.size() && e.head0 == head0 && e.head1 == head1 &&
+      Entry& e = entries_[slot - 1];
+      if (e.head0 == head0 && e.head1 == head1 && e.size == w.size() &&
           (w.size() <= kHead ||
-           std::memcmp(e.data + kHead, w.data() + kHead, w.size() - kHead) == 0)) {
+           std::memcmp(text_.data() + e.offset + kHead, w.data() + kHead, w.size() - kHead) == 0)) {
         fresh = false;
         return e;
       }
@@ -183,24 +176,39 @@ class SpellingTable {
 
  private:
   static constexpr size_t kStartSlots = 4096;
-  static constexpr size_t kHead = 16;
+  static constexpr size_t kHead = 8;
+
+  static uint64_t Hash(std::string_view w, uint32_t& head0, uint32_t& head1) {
+    char head[kHead] = {};
+    const size_t n = w.size() < kHead ? w.size() : kHead;
+    for (size_t i = 0; i < n; ++i)
+      head[i] = w[i];
+    std::memcpy(&head0, head, 4);
+    std::memcpy(&head1, head + 4, 4);
+    uint64_t hash = ((uint64_t{head1} << 32 | head0) * 0xFF51AFD7ED558CCDULL) ^ w.size();
+    for (size_t i = kHead; i < w.size(); ++i)
+      hash = (hash ^ static_cast<unsigned char>(w[i])) * 0x100000001B3ULL;
+    hash ^= hash >> 29;
+    hash *= 0x9E3779B97F4A7C15ULL;
+    return hash ^ (hash >> 32);
+  }
 
   void Grow() {
-    std::vector<Entry> old(slots_.size() * 2);
-    old.swap(slots_);
+    slots_.assign(slots_.size() * 2, 0);
     const size_t mask = slots_.size() - 1;
-    for (const Entry& e : old) {
-      if (e.data == nullptr)
-        continue;
-      size_t i = static_cast<size_t>(e.hash) & mask;
-      while (slots_[i].data != nullptr)
+    for (size_t k = 0; k < entries_.size(); ++k) {
+      uint32_t head0, head1;
+      const Entry& e = entries_[k];
+      size_t i = static_cast<size_t>(Hash(text_.substr(e.offset, e.size), head0, head1)) & mask;
+      while (slots_[i] != 0)
         i = (i + 1) & mask;
-      slots_[i] = e;
+      slots_[i] = static_cast<uint32_t>(k + 1);
     }
   }
 
-  std::vector<Entry> slots_;
-  size_t used_ = 0;
+  std::string_view text_;
+  std::vector<uint32_t> slots_;  // 0: free; otherwise an entry's number plus one
+  std::vector<Entry> entries_;
 };
 
 }  // namespace
@@ -278,7 +286,7 @@ void Word_Count_Stripped_Text(AppState& s) {
   s.DocumentWords.Reserve(stored + length / 3 + 1, stored * 8 + length);
   s.DocumentWordsUpper.Reserve(stored + length / 3 + 1, stored * 8 + length);
 
-  SpellingTable spellings;
+  SpellingTable spellings(text);
   std::string folded;
   for (size_t i = 1; i <= length; ++i) {
     if (text[i - 1] == ' ')
