@@ -102,10 +102,15 @@ int16_t Scan_Tag_List(const AppState& s, const std::string& tagText) {
     }
     return true;
   };
-  for (int16_t i = 0; i < s.TagListCount; ++i) {
-    if (matches(At(s.TagOpenList, i)))
+  // Entries past the table are a subscript error once the loop reaches them.
+  const int64_t count = s.TagListCount;
+  const int64_t inTable = std::min<int64_t>(count, static_cast<int64_t>(s.TagOpenList.size()));
+  for (int64_t i = 0; i < inTable; ++i) {
+    if (matches(s.TagOpenList[static_cast<size_t>(i)]))
       return ToInt16(static_cast<int64_t>(text::Val(At(s.TagKindList, i))));
   }
+  if (inTable < count)
+    RaiseSubscriptOutOfRange();
   return 0;
 }
 
