@@ -226,17 +226,8 @@ void FillBodyView(AppState& s) {
   const int32_t count = s.DocumentWordCount;
   if (count > 0)
     CheckIndex(count - 1, 0, static_cast<int64_t>(s.DocumentWords.size()) - 1);
-  size_t size = 0;
-  for (int32_t k = 0; k < count; ++k)
-    size += s.DocumentWords[static_cast<size_t>(k)].size() + 2;
-  std::string view;
-  view.reserve(size);
-  for (int32_t k = 0; k < count; ++k) {
-    if (k > 0)
-      view += ", ";
-    view += s.DocumentWords[static_cast<size_t>(k)];
-  }
-  s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox = std::move(view);
+  s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox =
+      s.DocumentWords.Join(static_cast<size_t>(std::max(count, 0)), ", ");
 }
 
 }  // namespace

@@ -133,12 +133,12 @@ constexpr int32_t kFilterWord = -1;   // listed, not counted
 // Open addressing over the spellings seen so far, sized for the cache: a page of half a
 // million words repeats some twenty thousand spellings in no order, so each lookup is a
 // random access, and small tables keep those in the cache. The slots hold entry numbers; an
-// entry holds its spelling's first 8 bytes, its place in the stripped text (which does not
-// change during the count) and the outcome.
+// entry holds its spelling's first 16 bytes (all of most words), its place in the stripped
+// text (which does not change during the count) and the outcome.
 class SpellingTable {
  public:
   struct Entry {
-    uint32_t head0 = 0, head1 = 0;  // the first 8 bytes, zero-padded
+    uint64_t head0 = 0, head1 = 0;  // the first 16 bytes, zero-padded
     uint32_t offset = 0;            // where the spelling first stood in the text
     uint32_t size = 0;
     int32_t outcome = 0;
@@ -152,7 +152,7 @@ class SpellingTable {
   Entry& Find(std::string_view w, bool& fresh) {
     if ((entries_.size() + 1) * 2 > slots_.size())
       Grow();
-    uint32_t head0, head1;
+    uint64_t head0, head1;
     const uint64_t hash = Hash(w, head0, head1);
     const size_t mask = slots_.size() - 1;
     for (size_t i = static_cast<size_t>(hash) & mask;; i = (i + 1) & mask) {
@@ -176,16 +176,16 @@ class SpellingTable {
 
  private:
   static constexpr size_t kStartSlots = 4096;
-  static constexpr size_t kHead = 8;
+  static constexpr size_t kHead = 16;
 
-  static uint64_t Hash(std::string_view w, uint32_t& head0, uint32_t& head1) {
+  static uint64_t Hash(std::string_view w, uint64_t& head0, uint64_t& head1) {
     char head[kHead] = {};
     const size_t n = w.size() < kHead ? w.size() : kHead;
     for (size_t i = 0; i < n; ++i)
       head[i] = w[i];
-    std::memcpy(&head0, head, 4);
-    std::memcpy(&head1, head + 4, 4);
-    uint64_t hash = ((uint64_t{head1} << 32 | head0) * 0xFF51AFD7ED558CCDULL) ^ w.size();
+    std::memcpy(&head0, head, 8);
+    std::memcpy(&head1, head + 8, 8);
+    uint64_t hash = (head0 * 0xFF51AFD7ED558CCDULL) ^ (head1 * 0xC4CEB9FE1A85EC53ULL) ^ w.size();
     for (size_t i = kHead; i < w.size(); ++i)
       hash = (hash ^ static_cast<unsigned char>(w[i])) * 0x100000001B3ULL;
     hash ^= hash >> 29;
@@ -197,7 +197,7 @@ class SpellingTable {
     slots_.assign(slots_.size() * 2, 0);
     const size_t mask = slots_.size() - 1;
     for (size_t k = 0; k < entries_.size(); ++k) {
-      uint32_t head0, head1;
+      uint64_t head0, head1;
       const Entry& e = entries_[k];
       size_t i = static_cast<size_t>(Hash(text_.substr(e.offset, e.size), head0, head1)) & mask;
       while (slots_[i] != 0)
@@ -218,6 +218,28 @@ WordList& WordList::operator=(const std::vector<std::string>& words) {
   for (const std::string& w : words)
     Append(w);
   return *this;
+}
+
+std::string WordList::Join(size_t count, std::string_view separator) const {
+  if (count == 0)
+    return {};
+  const size_t stored = std::min(count, ends_.size());
+  const size_t chars = stored == 0 ? 0 : ends_[stored - 1];
+  std::string out(chars + (count - 1) * separator.size(), '\0');
+  // Byte loops rather than a copy call per word: the words are short and many.
+  char* o = out.data();
+  const char* c = chars_.data();
+  for (size_t k = 0; k < count; ++k) {
+    if (k > 0) {
+      for (const char s : separator)
+        *o++ = s;
+    }
+    if (k < stored) {
+      for (const char* end = chars_.data() + ends_[k]; c != end; ++c)
+        *o++ = *c;
+    }
+  }
+  return out;
 }
 
 void WordList::Reset(size_t slots) {

@@ -92,6 +92,9 @@ class WordList {
     const size_t begin = i == 0 ? 0 : ends_[i - 1];
     return std::string_view(chars_).substr(begin, ends_[i] - begin);
   }
+  // Words 0..count-1 joined by the separator.
+  std::string Join(size_t count, std::string_view separator) const;
+
   enum class Fold { None, Lower, Upper };  // ASCII case folding on the way in
   // Stores the word at index Stored(), adding a slot when there is none.
   void Append(std::string_view word, Fold fold = Fold::None);
