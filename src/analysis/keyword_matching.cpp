@@ -70,6 +70,7 @@ void PrepareKeywordWords(AppState& s) {
 void ScanText(AppState& s) {
   const std::string body = UnderCaseRule(s, s.DocumentText);
   for (int16_t i = 0; i < s.KeywordCount; ++i) {
+    s.platform->DoEvents();  // each keyword is a search of the whole page
     s.CurrentKeyword = UnderCaseRule(s, At(s.KeywordList, i));
     int16_t& matches = At(s.KeywordBodyMatches, i);
     matches = CountOverlapping(body, s.CurrentKeyword, matches);
@@ -84,8 +85,11 @@ void ScanWords(AppState& s) {
   std::unordered_map<std::string_view, std::vector<int32_t>> positions;
   for (int32_t k = 0; k < count; ++k)
     w[static_cast<size_t>(k)] = UnderCaseRule(s, At(s.DocumentWords, k));
-  for (int32_t k = 0; k <= count; ++k)
+  for (int32_t k = 0; k <= count; ++k) {
+    if ((k & 4095) == 4095)
+      s.platform->DoEvents();
     positions[w[static_cast<size_t>(k)]].push_back(k);
+  }
 
   for (int16_t i = 0; i < s.KeywordCount; ++i) {
     const std::vector<std::string>& kw = At(s.KeywordWords, i);

@@ -108,9 +108,12 @@ void Word_Count_Stripped_Text(AppState& s) {
   Init_Document_Word_Dictionary(s);
   const FilterLookup lookup(s);
   const int64_t length = static_cast<int64_t>(s.StrippedText.size());
+  int32_t words = 0;  // the window repaints every few thousand words of a long page
   for (int64_t i = 1; i <= length; ++i) {
     if (s.StrippedText[static_cast<size_t>(i - 1)] == ' ')
       continue;
+    if ((++words & 4095) == 0)
+      s.platform->DoEvents();
     std::string word = Get_Word_String(s, static_cast<int32_t>(i));
     const int64_t advance = static_cast<int64_t>(word.size());
     if (word.size() > 1) {
