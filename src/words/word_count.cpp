@@ -108,7 +108,7 @@ void Word_Count_Stripped_Text(AppState& s) {
   Init_Document_Word_Dictionary(s);
   const FilterLookup lookup(s);
   const int64_t length = static_cast<int64_t>(s.StrippedText.size());
-  int32_t words = 0;  // the window repaints every few thousand words of a long page
+  uint32_t words = 0;  // the window repaints every few thousand words of a long page
   for (int64_t i = 1; i <= length; ++i) {
     if (s.StrippedText[static_cast<size_t>(i - 1)] == ' ')
       continue;
