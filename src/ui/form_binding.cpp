@@ -276,28 +276,24 @@ void FormBinding::ComboBox(QComboBox* w, app::DropDown* field) {
                       }});
 }
 
-void FormBinding::Label(QLabel* w, const std::string* field) {
+void FormBinding::ShowOnly(const std::string* field, std::function<void(const QString&)> apply) {
   auto shown = std::make_shared<Shown>();
   entries_.push_back({[] {},
-                      [this, w, field, shown] {
+                      [this, field, shown, apply] {
                         if (shown->generation == generation_ && shown->bytes == *field)
                           return;
                         shown->bytes = *field;
                         shown->generation = generation_;
-                        w->setText(Show(*field, TextKind::Page));
+                        apply(Show(*field, TextKind::Page));
                       }});
 }
 
+void FormBinding::Label(QLabel* w, const std::string* field) {
+  ShowOnly(field, [w](const QString& text) { w->setText(text); });
+}
+
 void FormBinding::ToolTip(QWidget* w, const std::string* field) {
-  auto shown = std::make_shared<Shown>();
-  entries_.push_back({[] {},
-                      [this, w, field, shown] {
-                        if (shown->generation == generation_ && shown->bytes == *field)
-                          return;
-                        shown->bytes = *field;
-                        shown->generation = generation_;
-                        w->setToolTip(Show(*field, TextKind::Page));
-                      }});
+  ShowOnly(field, [w](const QString& text) { w->setToolTip(text); });
 }
 
 void FormBinding::Menu(QAction* a, const app::MenuEntry* entry) {

@@ -77,6 +77,8 @@ class FormBinding {
   QString Show(const std::string& bytes, TextKind kind) const;
   std::string Take(const QString& text, TextKind kind) const;
   void Changed();
+  // A text the user cannot edit: shown when the core changed it, never read back.
+  void ShowOnly(const std::string* field, std::function<void(const QString&)> apply);
 
   AppState& s_;
   std::vector<Entry> entries_;
