@@ -72,6 +72,7 @@ void PrepareKeywordWords(AppState& s) {
 void ScanText(AppState& s) {
   const std::string body = UnderCaseRule(s, s.DocumentText);
   for (int16_t i = 0; i < s.KeywordCount; ++i) {
+    s.platform->DoEvents();  // each keyword is a search of the whole page
     s.CurrentKeyword = UnderCaseRule(s, At(s.KeywordList, i));
     int16_t& matches = At(s.KeywordBodyMatches, i);
     matches = CountOverlapping(body, s.CurrentKeyword, matches);
@@ -188,6 +189,8 @@ void ScanWords(AppState& s) {
 
   std::vector<int64_t> found(static_cast<size_t>(s.KeywordCount), 0);
   for (int32_t k = 0; k <= count; ++k) {
+    if ((k & 4095) == 4095)
+      s.platform->DoEvents();
     const std::string_view word = Document_Word(s, k, count);
     const size_t row = std::min(word.size(), kLengths - 1);
     const char first = word.empty() ? '\0' : upper ? text::UpperAscii(word[0]) : word[0];

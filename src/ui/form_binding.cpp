@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -47,6 +48,28 @@ bool UsesCrLf(const std::string& bytes) {
   return crlf >= lf && crlf > 0;
 }
 
+// Runs a callback when the watched widget is shown.
+class ShowWatcher : public QObject {
+ public:
+  ShowWatcher(QWidget* w, std::function<void()> onShow) : QObject(w), onShow_(std::move(onShow)) {
+    w->installEventFilter(this);
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Show)
+      onShow_();
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  std::function<void()> onShow_;
+};
+
+// A widget of a shown window that is itself hidden sits on a tab not in front; it cannot be
+// seen or edited until it is shown. A window not shown yet (or a lone widget) is filled at once.
+bool OutOfSight(const QWidget* w) {
+  return !w->isVisible() && w->window()->isVisible();
+}
+
 QString MenuText(QString caption) {
   return caption.replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
@@ -61,6 +84,20 @@ QString FormBinding::Show(const std::string& bytes, TextKind kind) const {
 
 std::string FormBinding::Take(const QString& text, TextKind kind) const {
   return kind == TextKind::Path ? EncodePath(text) : Encode(text, codec_);
+}
+
+FormBinding::Deferred& FormBinding::DeferredFor(QPlainTextEdit* w) {
+  auto& d = deferred_[w];
+  if (!d) {
+    d = std::make_shared<Deferred>();
+    new ShowWatcher(w, [d] {
+      if (d->text && d->showText)
+        d->showText();
+      if (d->selection && d->showSelection)
+        d->showSelection();
+    });
+  }
+  return *d;
 }
 
 void FormBinding::Changed() {
@@ -98,24 +135,37 @@ void FormBinding::LineEdit(QLineEdit* w, std::string* field, Setter setter, Text
 void FormBinding::TextArea(QPlainTextEdit* w, std::string* field) {
   auto shown = std::make_shared<Shown>();
   auto crlf = std::make_shared<bool>(false);
+  Deferred& deferred = DeferredFor(w);
   QObject::connect(w, &QPlainTextEdit::textChanged, w, [shown] { shown->dirty = true; });
+  // Sets the text last taken from the Form, in the codec of the push that took it (the codec
+  // changes only in a push, and a push after a change takes the text again).
+  auto setText = [this, w, shown, crlf, &deferred] {
+    const QSignalBlocker block(w);
+    deferred.text = false;
+    *crlf = UsesCrLf(shown->bytes);
+    w->setPlainText(Show(shown->bytes, TextKind::Page));
+    shown->dirty = false;
+  };
+  deferred.showText = setText;
   entries_.push_back({[this, w, field, shown, crlf] {
+                        // A text still waiting to be shown was never in the editor to change.
                         if (!shown->dirty)
                           return;
                         shown->dirty = false;
                         shown->bytes = Take(EditorText(w, *crlf), TextKind::Page);
                         *field = shown->bytes;
                       },
-                      [this, w, field, shown, crlf] {
+                      [this, w, field, shown, setText, &deferred] {
                         if (shown->generation == generation_ && shown->bytes == *field)
                           return;
-                        const QSignalBlocker block(w);
                         shown->bytes = *field;
                         shown->generation = generation_;
                         shown->dirty = false;
-                        *crlf = UsesCrLf(*field);
-                        w->setPlainText(Show(*field, TextKind::Page));
                         w->setProperty(kTextVersion, w->property(kTextVersion).toInt() + 1);
+                        if (OutOfSight(w))
+                          deferred.text = true;
+                        else
+                          setText();
                       }});
 }
 
@@ -127,6 +177,19 @@ void FormBinding::Selection(QPlainTextEdit* w, const std::string* text, int32_t*
     bool dirty = false;
   };
   auto sel = std::make_shared<Sel>();
+  Deferred& deferred = DeferredFor(w);
+  auto select = [this, w, text, sel, &deferred] {
+    const QSignalBlocker block(w);
+    deferred.selection = false;
+    const auto first = static_cast<std::size_t>(std::max(sel->start, 0));
+    const auto last = first + static_cast<std::size_t>(std::max(sel->length, 0));
+    QTextCursor c(w->document());
+    c.setPosition(ByteToEditor(*text, codec_, first));
+    c.setPosition(ByteToEditor(*text, codec_, last), QTextCursor::KeepAnchor);
+    w->setTextCursor(c);
+    w->ensureCursorVisible();
+  };
+  deferred.showSelection = select;
   QObject::connect(w, &QPlainTextEdit::cursorPositionChanged, w, [sel] { sel->dirty = true; });
   QObject::connect(w, &QPlainTextEdit::selectionChanged, w, [sel] { sel->dirty = true; });
   entries_.push_back({[this, w, text, start, length, sel] {
@@ -139,7 +202,7 @@ void FormBinding::Selection(QPlainTextEdit* w, const std::string* text, int32_t*
                         *start = sel->start = static_cast<int32_t>(a);
                         *length = sel->length = static_cast<int32_t>(b - a);
                       },
-                      [this, w, text, start, length, sel] {
+                      [w, start, length, sel, select, &deferred] {
                         // A text shown afresh puts the caret at the top; the Form follows the
                         // editor then.
                         const int version = w->property(kTextVersion).toInt();
@@ -147,20 +210,17 @@ void FormBinding::Selection(QPlainTextEdit* w, const std::string* text, int32_t*
                           sel->textVersion = version;
                           *start = sel->start = 0;
                           *length = sel->length = 0;
+                          deferred.selection = false;
                           return;
                         }
                         if (*start == sel->start && *length == sel->length)
                           return;
-                        const QSignalBlocker block(w);
                         sel->start = *start;
                         sel->length = *length;
-                        const auto first = static_cast<std::size_t>(std::max(*start, 0));
-                        const auto last = first + static_cast<std::size_t>(std::max(*length, 0));
-                        QTextCursor c(w->document());
-                        c.setPosition(ByteToEditor(*text, codec_, first));
-                        c.setPosition(ByteToEditor(*text, codec_, last), QTextCursor::KeepAnchor);
-                        w->setTextCursor(c);
-                        w->ensureCursorVisible();
+                        if (deferred.text || OutOfSight(w))
+                          deferred.selection = true;
+                        else
+                          select();
                       }});
 }
 
@@ -216,28 +276,24 @@ void FormBinding::ComboBox(QComboBox* w, app::DropDown* field) {
                       }});
 }
 
-void FormBinding::Label(QLabel* w, const std::string* field) {
+void FormBinding::ShowOnly(const std::string* field, std::function<void(const QString&)> apply) {
   auto shown = std::make_shared<Shown>();
   entries_.push_back({[] {},
-                      [this, w, field, shown] {
+                      [this, field, shown, apply] {
                         if (shown->generation == generation_ && shown->bytes == *field)
                           return;
                         shown->bytes = *field;
                         shown->generation = generation_;
-                        w->setText(Show(*field, TextKind::Page));
+                        apply(Show(*field, TextKind::Page));
                       }});
 }
 
+void FormBinding::Label(QLabel* w, const std::string* field) {
+  ShowOnly(field, [w](const QString& text) { w->setText(text); });
+}
+
 void FormBinding::ToolTip(QWidget* w, const std::string* field) {
-  auto shown = std::make_shared<Shown>();
-  entries_.push_back({[] {},
-                      [this, w, field, shown] {
-                        if (shown->generation == generation_ && shown->bytes == *field)
-                          return;
-                        shown->bytes = *field;
-                        shown->generation = generation_;
-                        w->setToolTip(Show(*field, TextKind::Page));
-                      }});
+  ShowOnly(field, [w](const QString& text) { w->setToolTip(text); });
 }
 
 void FormBinding::Menu(QAction* a, const app::MenuEntry* entry) {

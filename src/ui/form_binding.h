@@ -6,7 +6,9 @@
 #include <QString>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "app/form_model.h"
@@ -62,12 +64,25 @@ class FormBinding {
     std::function<void()> pull;
     std::function<void()> push;
   };
+  // A text area on a tab the user is not looking at gets its text when it is shown: setting
+  // megabytes into a QPlainTextEdit (and laying out a wrapped one) is the slow part of a push.
+  // Its selection waits with it, since it needs the text underneath.
+  struct Deferred {
+    bool text = false;
+    bool selection = false;
+    std::function<void()> showText;
+    std::function<void()> showSelection;
+  };
+  Deferred& DeferredFor(QPlainTextEdit* w);
   QString Show(const std::string& bytes, TextKind kind) const;
   std::string Take(const QString& text, TextKind kind) const;
   void Changed();
+  // A text the user cannot edit: shown when the core changed it, never read back.
+  void ShowOnly(const std::string* field, std::function<void(const QString&)> apply);
 
   AppState& s_;
   std::vector<Entry> entries_;
+  std::unordered_map<const QPlainTextEdit*, std::shared_ptr<Deferred>> deferred_;
   const std::string* codecSource_ = nullptr;
   std::string codecSeen_;
   Codec codec_ = Codec::Utf8;

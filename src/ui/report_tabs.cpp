@@ -22,6 +22,9 @@ ViewBodyTab::ViewBodyTab(View& v, QWidget* parent) : QWidget(parent) {
   auto* body = MakeTextArea(v, this, "ScanKeyWords_StrippedHTMLDocument_TextBox",
                             &f.ScanKeyWords_StrippedHTMLDocument_TextBox, false);
   body->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+  // The body is one long paragraph, laid out whole at the box's width: a scroll bar that
+  // appears only once the text is in would narrow the box and lay a long body out twice.
+  body->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   layout->addWidget(body, 1);
 }
 

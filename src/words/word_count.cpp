@@ -310,9 +310,12 @@ void Word_Count_Stripped_Text(AppState& s) {
 
   SpellingTable spellings(text);
   std::string folded;
+  int32_t words = 0;  // the window repaints every few thousand words of a long page
   for (size_t i = 1; i <= length; ++i) {
     if (text[i - 1] == ' ')
       continue;
+    if ((++words & 4095) == 0)
+      s.platform->DoEvents();
     // The word at i (Get_Word_String): it stops at the text's length without looking at the
     // last character.
     size_t p = i;

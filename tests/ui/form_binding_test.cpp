@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTabWidget>
 #include <QTextCursor>
 
 #include "app/app_state.h"
@@ -149,6 +150,46 @@ TEST_F(FormBindingTest, SelectionFollowsBytePositionsAndResetsOnNewText) {
   EXPECT_EQ(s.Form.Html_Document_Editor_SelStart, 0);
   EXPECT_EQ(s.Form.Html_Document_Editor_SelLength, 0);
   EXPECT_FALSE(editor.textCursor().hasSelection());
+}
+
+TEST_F(FormBindingTest, AnEditorBehindAnotherTabGetsItsTextWhenShown) {
+  QTabWidget tabs;
+  tabs.addTab(new QWidget, QStringLiteral("front"));
+  auto* editor = new QPlainTextEdit;
+  tabs.addTab(editor, QStringLiteral("page"));
+  bind.CodecSource(&s.Form.Html_Document_Editor);
+  bind.TextArea(editor, &s.Form.Html_Document_Editor);
+  bind.Selection(editor, &s.Form.Html_Document_Editor, &s.Form.Html_Document_Editor_SelStart,
+                 &s.Form.Html_Document_Editor_SelLength);
+  tabs.show();
+
+  // The user's edit is taken; then the core replaces the page while the editor is behind.
+  tabs.setCurrentIndex(1);
+  editor->setPlainText(QStringLiteral("typed"));
+  bind.Pull();
+  EXPECT_EQ(s.Form.Html_Document_Editor, "typed");
+  tabs.setCurrentIndex(0);
+  s.Form.Html_Document_Editor = "<p>\xE9t\xE9</p>\r\n<p>two</p>\r\n";  // Windows-1252, CR LF
+  bind.Push();
+  s.Form.Html_Document_Editor_SelStart = 15;
+  s.Form.Html_Document_Editor_SelLength = 3;
+  bind.Push();
+  // Until it is shown the Form keeps the core's page, whatever the editor still holds.
+  bind.Pull();
+  EXPECT_EQ(s.Form.Html_Document_Editor, "<p>\xE9t\xE9</p>\r\n<p>two</p>\r\n");
+  EXPECT_EQ(s.Form.Html_Document_Editor_SelStart, 15);
+
+  tabs.setCurrentIndex(1);
+  EXPECT_EQ(editor->toPlainText(), QString::fromUtf8("<p>\xC3\xA9t\xC3\xA9</p>\n<p>two</p>\n"));
+  EXPECT_EQ(editor->textCursor().selectedText(), QStringLiteral("two"));
+  bind.Pull();
+  EXPECT_EQ(s.Form.Html_Document_Editor_SelStart, 15);
+  EXPECT_EQ(s.Form.Html_Document_Editor_SelLength, 3);
+  QTextCursor c(editor->document());
+  c.movePosition(QTextCursor::End);
+  c.insertText(QStringLiteral("\u00FC"));
+  bind.Pull();
+  EXPECT_EQ(s.Form.Html_Document_Editor, "<p>\xE9t\xE9</p>\r\n<p>two</p>\r\n\xFC");
 }
 
 }  // namespace zentrel::ui
