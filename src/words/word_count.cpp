@@ -255,9 +255,9 @@ void WordList::Truncate(size_t words) {
   chars_.resize(words == 0 ? 0 : ends_.back());
 }
 
-void WordList::Reserve(size_t words, size_t chars) {
-  ends_.reserve(words);
-  chars_.reserve(chars);
+void WordList::ReserveMore(size_t words, size_t chars) {
+  ends_.reserve(ends_.size() + words);
+  chars_.reserve(chars_.size() + chars);
 }
 
 void WordList::Append(std::string_view word, Fold fold) {
@@ -302,11 +302,11 @@ void Word_Count_Stripped_Text(AppState& s) {
   for (size_t c = 0; c < breaks.size(); ++c)
     breaks[c] = s.Get_Word_String_Chr_Table[c] != 0;
 
-  // Every word takes at least three characters of the text (two letters and a break), so
-  // this is all the room the lists can need; pages never touched cost nothing.
-  const size_t stored = s.DocumentWords.Stored();
-  s.DocumentWords.Reserve(stored + length / 3 + 1, stored * 8 + length);
-  s.DocumentWordsUpper.Reserve(stored + length / 3 + 1, stored * 8 + length);
+  // A listed word takes at least three characters of the text (two letters and a break, or
+  // the text's end), so this is all the room the lists can need; room never written to costs
+  // no memory.
+  s.DocumentWords.ReserveMore(length / 3 + 1, length);
+  s.DocumentWordsUpper.ReserveMore(length / 3 + 1, length);
 
   SpellingTable spellings(text);
   std::string folded;

@@ -82,8 +82,8 @@ class WordList {
   void Resize(size_t slots) { slots_ = slots; }
   // Forgets the words from index `words` on.
   void Truncate(size_t words);
-  // Room for this many words and characters without moving the buffers.
-  void Reserve(size_t words, size_t chars);
+  // Room for this many more words and characters without moving the buffers.
+  void ReserveMore(size_t words, size_t chars);
   size_t size() const { return slots_; }
   size_t Stored() const { return ends_.size(); }
   std::string_view operator[](size_t i) const {
