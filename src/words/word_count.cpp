@@ -242,10 +242,10 @@ std::string WordList::Join(size_t count, std::string_view separator) const {
   return out;
 }
 
-void WordList::Reset(size_t slots) {
+void WordList::Reset(size_t count) {
   chars_.clear();
   ends_.clear();
-  slots_ = slots;
+  slots_ = count;
 }
 
 void WordList::Truncate(size_t words) {

@@ -76,10 +76,10 @@ class WordList {
   // Appends the word after the stored ones, like Append.
   void emplace_back(std::string_view word = {}) { Append(word); }
 
-  // Slots 0..slots-1, all empty.
-  void Reset(size_t slots);
+  // Slots 0..count-1, all empty.
+  void Reset(size_t count);
   // More (or fewer) slots; the stored words stay.
-  void Resize(size_t slots) { slots_ = slots; }
+  void Resize(size_t count) { slots_ = count; }
   // Forgets the words from index `words` on.
   void Truncate(size_t words);
   // Room for this many more words and characters without moving the buffers.
