@@ -140,7 +140,8 @@ const Entry* Find_Entry(const std::string& key) {
 }  // namespace
 
 std::string Preferences_Path(const AppState& s) {
-  if (!s.PreferencesFileOverride.empty()) return s.PreferencesFileOverride;
+  if (!s.PreferencesFileOverride.empty())
+    return s.PreferencesFileOverride;
   return s.ProgramFolder + "/" + kPreferencesFileName;
 }
 
