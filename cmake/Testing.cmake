@@ -15,8 +15,6 @@ endfunction()
 # A test of the Qt view: offscreen platform, no splash screen.
 function(zentrel_add_ui_test name)
   add_executable(${name} ${ARGN})
-  # No .ui forms here: "ui_test_support.h" is a plain header, not uic output.
-  set_target_properties(${name} PROPERTIES AUTOUIC OFF)
   target_link_libraries(${name} PRIVATE zentrel_ui zentrel_test_support GTest::gtest_main
                                         zentrel_warnings zentrel_sanitize)
   add_dependencies(${name} zentrel_resources)
