@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <map>
 
 #include "app/startup.h"
 #include "document/document_cache.h"
@@ -40,6 +41,35 @@ std::string Scratch_Path(const std::string& name) {
 void Put_Page(AppState& s, const std::string& bytes) {
   s.Form.Html_Document_Editor = bytes;
   s.DocumentLength = document::Reload_File_From_Memory_TO_Cache(s);
+}
+
+std::string Escaped(const std::string& bytes) {
+  std::string out;
+  for (unsigned char c : bytes) {
+    if (c >= 32 && c < 127 && c != '\\') {
+      out += static_cast<char>(c);
+    } else {
+      char hex[8];
+      std::snprintf(hex, sizeof hex, "\\x%02X", c);
+      out += hex;
+    }
+  }
+  return out;
+}
+
+void Count(const char* what) {
+  static std::map<std::string, long>* counts = [] {
+    auto* table = new std::map<std::string, long>();
+    if (std::getenv("ZENTREL_FUZZ_COUNTS") != nullptr) {
+      static std::map<std::string, long>* printed = table;
+      std::atexit([] {
+        for (const auto& [name, n] : *printed)
+          std::fprintf(stderr, "count: %s %ld\n", name.c_str(), n);
+      });
+    }
+    return table;
+  }();
+  ++(*counts)[what];
 }
 
 void Require(bool condition, const char* property) {
