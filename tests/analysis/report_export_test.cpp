@@ -104,6 +104,16 @@ TEST(Do_Save_REPORT, AFailedWriteIsShownAndLeavesNothingBehind) {
   EXPECT_EQ(platform.messages.size(), 2u);
   EXPECT_EQ(ReadFile(folder.File("report.txt")), "old report");
   EXPECT_EQ(Files_In(folder.path()), 1u);
+
+  // The body text goes the same way.
+  testing::WriteFile(folder.File("body.txt"), "old body");
+  s2.Form.ScanKeyWords_StrippedHTMLDocument_TextBox = "new body";
+  platform.AnswerSave(folder.File("body.txt"));
+  ViewBody_SaveAs_Click(s2);
+  ASSERT_EQ(platform.messages.size(), 3u);
+  EXPECT_NE(platform.messages[2].find(folder.File("body.txt")), std::string::npos);
+  EXPECT_EQ(ReadFile(folder.File("body.txt")), "old body");
+  EXPECT_EQ(Files_In(folder.path()), 2u);
 }
 
 TEST(Users_METATAGS_TextBox, TheBoxIsTheUsersKeywordsAndClearEmptiesBoth) {

@@ -28,7 +28,7 @@ for t in "${targets[@]}"; do
     -max_total_time="$seconds" -print_final_stats=1 -artifact_prefix="build/fuzz/crash-$t-" \
     ${FUZZ_FLAGS:-} "$work" "tests/fuzz/corpus/$t" tests/data >"$log" 2>&1
   status=$?
-  grep -E '^(#[0-9]+ +(INITED|DONE)|stat::|SUMMARY|property failed|.*runtime error|==[0-9]+==ERROR)' \
+  grep -E '^(#[0-9]+[[:space:]]+(INITED|DONE)|stat::|SUMMARY|property failed|.*runtime error|==[0-9]+==ERROR)' \
     "$log" | tail -n 12
   if [ $status -ne 0 ]; then
     echo "!! fuzz_$t failed (exit $status); log: $log"
