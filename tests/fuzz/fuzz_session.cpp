@@ -57,18 +57,21 @@ std::string Escaped(const std::string& bytes) {
   return out;
 }
 
+namespace {
+// Never freed: it must outlive the exit handler that prints it.
+std::map<std::string, long>* counts = nullptr;
+}  // namespace
+
 void Count(const char* what) {
-  static std::map<std::string, long>* counts = [] {
-    auto* table = new std::map<std::string, long>();
+  if (counts == nullptr) {
+    counts = new std::map<std::string, long>();
     if (std::getenv("ZENTREL_FUZZ_COUNTS") != nullptr) {
-      static std::map<std::string, long>* printed = table;
       std::atexit([] {
-        for (const auto& [name, n] : *printed)
+        for (const auto& [name, n] : *counts)
           std::fprintf(stderr, "count: %s %ld\n", name.c_str(), n);
       });
     }
-    return table;
-  }();
+  }
   ++(*counts)[what];
 }
 
