@@ -163,6 +163,12 @@ inject write EINTR "${writes[0]}..$((${writes[0]} + 3))" new
 for en in EIO ENOSPC EDQUOT EROFS EINTR; do inject fsync "$en" "$n_fsync" old; done
 for en in EIO ENOSPC EDQUOT EINTR; do inject close "$en" "$n_close" old; done
 for en in EXDEV EACCES EPERM EROFS ENOSPC EBUSY EIO EINTR; do inject rename "$en" "$n_rename" old; done
+# A file system that refuses permission changes still gets the page: the permissions are
+# the one thing a save may lose (the temporary file's 0600 then stays).
+if [ -n "${n_fchmod:-}" ]; then
+  inject fchmod EPERM "$n_fchmod" new
+  echo "fchmod refused: the saved page has mode $(stat -c %a "$out") (old: 644)"
+fi
 # Failing the page's own read or the read-back after the rename: nothing saved, or the new
 # page saved whole.
 reset "$dir" "$out"
