@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
@@ -29,6 +30,9 @@ int FileSystem::Rename(const std::string& from, const std::string& to) {
 }
 int FileSystem::Unlink(const std::string& path) {
   return ::unlink(path.c_str());
+}
+int FileSystem::CheckWritable(const std::string& path) {
+  return ::access(path.c_str(), W_OK);
 }
 
 FileSystem& RealFileSystem() {
@@ -69,6 +73,31 @@ void WriteAll(FileSystem& fsys, int fd, std::string_view bytes, const std::strin
       Fail("save", path, "writing", err);
     }
     done += static_cast<size_t>(n);
+  }
+}
+
+constexpr const char* kTempInfix = ".zentrel-";
+constexpr size_t kTempRandomLength = 6;  // the XXXXXX of mkstemp
+
+// Removes temporary files of earlier saves of this target that were killed before their
+// rename. Only names this writer makes, and only old ones: a fresh one may be another
+// program's save in progress.
+void RemoveStaleTemps(FileSystem& fsys, const fs::path& dir, const std::string& fileName) {
+  const std::string prefix = "." + fileName + kTempInfix;
+  std::error_code ec;
+  const auto now = fs::file_time_type::clock::now();
+  for (fs::directory_iterator it(dir.empty() ? fs::path(".") : dir, ec), end; !ec && it != end;
+       it.increment(ec)) {
+    const std::string name = it->path().filename().string();
+    if (name.size() != prefix.size() + kTempRandomLength ||
+        name.compare(0, prefix.size(), prefix) != 0)
+      continue;
+    std::error_code statError;
+    if (!it->is_regular_file(statError) || statError)
+      continue;
+    const auto written = it->last_write_time(statError);
+    if (!statError && now - written > std::chrono::seconds(kStaleTempSeconds))
+      fsys.Unlink(it->path().string());
   }
 }
 
@@ -125,10 +154,14 @@ void WriteFileAtomic(const std::string& path, std::string_view bytes, FileSystem
   }
   struct stat old {};
   const bool existed = ::stat(target.c_str(), &old) == 0;
+  if (existed && fsys.CheckWritable(target) != 0) {
+    const int err = errno;
+    throw FileError("Cannot save \"" + path + "\": the file is read-only: " + std::strerror(err));
+  }
 
   fs::path dir = fs::path(target).parent_path();
   std::string temp = (dir.empty() ? fs::path(".") : dir).string() + "/." +
-                     fs::path(target).filename().string() + ".zentrel-XXXXXX";
+                     fs::path(target).filename().string() + kTempInfix + "XXXXXX";
   int fd = fsys.MakeTemp(temp);
   if (fd < 0)
     Fail("save", path, "creating a temporary file", errno);
@@ -158,6 +191,7 @@ void WriteFileAtomic(const std::string& path, std::string_view bytes, FileSystem
     fsys.Unlink(temp);
     Fail("save", path, "renaming the temporary file", err);
   }
+  RemoveStaleTemps(fsys, dir, fs::path(target).filename().string());
 }
 
 std::vector<std::string> ReadListItems(std::string_view content) {

@@ -30,6 +30,7 @@ class FileSystem {
   virtual int Close(int fd);
   virtual int Rename(const std::string& from, const std::string& to);
   virtual int Unlink(const std::string& path);
+  virtual int CheckWritable(const std::string& path);  // access(path, W_OK)
 };
 
 FileSystem& RealFileSystem();
@@ -41,8 +42,11 @@ bool FileExists(const std::string& path);
 std::string ReadWholeFile(const std::string& path);
 
 // Replaces (or creates) path with bytes atomically. A symbolic link is kept and its target
-// replaced; an existing file keeps its permissions. Throws FileError; on failure the old file
-// is untouched and no temporary file is left behind.
+// replaced; an existing file keeps its permissions; a read-only file is not replaced. Throws
+// FileError; on failure the old file is untouched and no temporary file is left behind. A
+// save killed before its rename leaves its temporary file: a later successful save of the same
+// file removes such leftovers once they are older than kStaleTempSeconds.
+inline constexpr int kStaleTempSeconds = 60;
 void WriteFileAtomic(const std::string& path, std::string_view bytes,
                      FileSystem& fs = RealFileSystem());
 

@@ -65,6 +65,16 @@ TEST(Do_Save_REPORT, AFailedWriteIsShownAndLeavesTheOldFile) {
   ASSERT_EQ(e.platform.messages.size(), 1u);
   EXPECT_NE(e.platform.messages[0].find(e.report), std::string::npos);
   EXPECT_EQ(ReadFile(e.report), "old report");
+
+  // The body text goes the same way.
+  const std::string body = e.folder.File("body.txt");
+  testing::WriteFile(body, "old body");
+  s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox = "new body";
+  e.platform.AnswerSave(body);
+  ViewBody_SaveAs_Click(s);
+  ASSERT_EQ(e.platform.messages.size(), 2u);
+  EXPECT_NE(e.platform.messages[1].find(body), std::string::npos);
+  EXPECT_EQ(ReadFile(body), "old body");
 }
 
 TEST(Users_METATAGS_TextBox, TheBoxIsTheUsersKeywordsAndClearEmptiesBoth) {

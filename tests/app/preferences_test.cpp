@@ -6,6 +6,7 @@
 
 #include "app/app_state.h"
 #include "fake_platform.h"
+#include "full_disk.h"
 #include "test_files.h"
 
 namespace zentrel::app {
@@ -60,6 +61,25 @@ TEST(SavePreferencesFile, WritesEveryEntryInOrder) {
   SavePreferencesFile(s);
   EXPECT_EQ(ReadFile(p.path).find("FileLoaded:"), std::string::npos);
   EXPECT_EQ(ReadFile(p.path).find("DefaultWordFilterDictionary:"), std::string::npos);
+}
+
+TEST(SavePreferencesFile, AFailingWriteKeepsTheOldFile) {
+  testing::TempFolder folder;
+  testing::FakePlatform platform;
+  testing::FullDisk disk;
+  AppState s(platform, disk);
+  s.ProgramFolder = folder.path().string();
+  const std::string path = folder.File("Zentrel_Pref.txt");
+  testing::WriteFile(path, "Keywords_Sorted: 0\r\n");
+  try {
+    SavePreferencesFile(s);
+    ADD_FAILURE() << "the failed write was not reported";
+  } catch (const file_io::FileError& e) {
+    EXPECT_NE(std::string(e.what()).find(path), std::string::npos) << e.what();
+  }
+  EXPECT_GT(disk.failedWrites, 0);
+  EXPECT_EQ(ReadFile(path), "Keywords_Sorted: 0\r\n");
+  EXPECT_EQ(testing::EntriesIn(folder.path()), 1u);
 }
 
 TEST(LoadPreferencesFile, ReadsValuesTheWayTheyAreWritten) {

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <filesystem>
 
@@ -22,7 +23,7 @@ namespace {
 // Fails one chosen system call with a chosen errno.
 class FailingFileSystem : public FileSystem {
  public:
-  enum Step { kMakeTemp, kWrite, kShortWrite, kFsync, kClose, kRename };
+  enum Step { kMakeTemp, kWrite, kShortWrite, kInterrupted, kFsync, kClose, kRename, kReadOnly };
   FailingFileSystem(Step step, int err) : step_(step), err_(err) {}
   int MakeTemp(std::string& t) override { return Fail(kMakeTemp) ? -1 : FileSystem::MakeTemp(t); }
   ssize_t Write(int fd, const char* d, size_t n) override {
@@ -32,7 +33,15 @@ class FailingFileSystem : public FileSystem {
       wrote_ = true;
       return FileSystem::Write(fd, d, 1);
     }
+    if (step_ == kInterrupted && !wrote_) {  // a signal before anything was written
+      wrote_ = true;
+      errno = EINTR;
+      return -1;
+    }
     return Fail(kWrite) ? -1 : FileSystem::Write(fd, d, n);
+  }
+  int CheckWritable(const std::string& p) override {
+    return Fail(kReadOnly) ? -1 : FileSystem::CheckWritable(p);
   }
   int Fsync(int fd) override { return Fail(kFsync) ? -1 : FileSystem::Fsync(fd); }
   int Close(int fd) override {
@@ -89,7 +98,8 @@ TEST(WriteFileAtomic, EveryFailingStepLeavesTheOldFileAndNoTemporary) {
                         {FailingFileSystem::kShortWrite, ENOSPC, "writing"},
                         {FailingFileSystem::kFsync, EIO, "flushing"},
                         {FailingFileSystem::kClose, EIO, "closing"},
-                        {FailingFileSystem::kRename, EXDEV, "renaming"}};
+                        {FailingFileSystem::kRename, EXDEV, "renaming"},
+                        {FailingFileSystem::kReadOnly, EACCES, "read-only"}};
   for (const Case& c : cases) {
     TempFolder dir;
     std::string page = dir.File("page.html");
@@ -107,6 +117,37 @@ TEST(WriteFileAtomic, EveryFailingStepLeavesTheOldFileAndNoTemporary) {
     EXPECT_EQ(ReadFile(page), "the author's page");
     EXPECT_EQ(FilesIn(dir.path()), 1u) << "a temporary file was left behind";
   }
+}
+
+TEST(WriteFileAtomic, InterruptedWriteIsRetried) {
+  TempFolder dir;
+  std::string page = dir.File("page.html");
+  WriteFile(page, "old");
+  FailingFileSystem interrupted(FailingFileSystem::kInterrupted, EINTR);
+  WriteFileAtomic(page, "all of the new bytes", interrupted);
+  EXPECT_EQ(ReadFile(page), "all of the new bytes");
+  EXPECT_EQ(FilesIn(dir.path()), 1u);
+}
+
+TEST(WriteFileAtomic, StaleTemporariesOfKilledSavesAreRemovedByTheNextSave) {
+  TempFolder dir;
+  std::string page = dir.File("page.html");
+  WriteFile(page, "old");
+  const auto old = fs::file_time_type::clock::now() - std::chrono::minutes(5);
+  for (const char* name : {".page.html.zentrel-Ab12Cd", ".other.html.zentrel-Ab12Cd",
+                           ".page.html.zentrel-toolong", ".page.html.zentrel-Fresh1"}) {
+    WriteFile(dir.File(name), "left by a killed save");
+    if (std::string(name) != ".page.html.zentrel-Fresh1")
+      fs::last_write_time(dir.File(name), old);
+  }
+  WriteFileAtomic(page, "new");
+  EXPECT_EQ(ReadFile(page), "new");
+  EXPECT_FALSE(fs::exists(dir.File(".page.html.zentrel-Ab12Cd")));
+  // Another file's leftovers, names not of this writer and fresh ones (perhaps a save still
+  // running) stay.
+  EXPECT_TRUE(fs::exists(dir.File(".other.html.zentrel-Ab12Cd")));
+  EXPECT_TRUE(fs::exists(dir.File(".page.html.zentrel-toolong")));
+  EXPECT_TRUE(fs::exists(dir.File(".page.html.zentrel-Fresh1")));
 }
 
 TEST(WriteFileAtomic, SymbolicLinkIsKeptAndFolderTargetRefused) {

@@ -1,22 +1,43 @@
 #!/usr/bin/env bash
-# Builds the fuzz targets and runs each for SECONDS (default 60) on its corpus: the committed
-# seeds plus tests/data, with the token dictionary. Usage: tests/fuzz/run.sh [SECONDS] [TARGET...]
-set -euo pipefail
+# Builds the fuzz targets and runs each for SECONDS (default 60) after replaying its corpus:
+# the working corpus in build/fuzz/corpus, the committed seeds and tests/data, with the token
+# dictionary. Exits non-zero when any target crashed, broke a property, leaked, timed out or
+# ran out of memory; the reproducer is left as build/fuzz/crash-TARGET-*.
+# Usage: tests/fuzz/run.sh [SECONDS] [TARGET...]
+# Extra libFuzzer flags may be given in FUZZ_FLAGS (e.g. FUZZ_FLAGS="-jobs=1 -workers=1").
+set -uo pipefail
 cd "$(dirname "$0")/../.."
 seconds=${1:-60}
 shift || true
 targets=("$@")
 [ ${#targets[@]} -eq 0 ] && targets=(analyse rebuild files search)
 
-cmake --preset fuzz >/dev/null
-cmake --build --preset fuzz -j "$(nproc)"
+cmake --preset fuzz >/dev/null || exit 2
+cmake --build --preset fuzz -j "$(nproc)" || exit 2
 bin=build/fuzz/bin
+# A small quarantine keeps AddressSanitizer's memory well under the RSS limit.
+export ASAN_OPTIONS=detect_leaks=1:quarantine_size_mb=16:malloc_context_size=10
+failed=()
 for t in "${targets[@]}"; do
   work=build/fuzz/corpus/$t
+  log=build/fuzz/fuzz_$t.log
   mkdir -p "$work" "tests/fuzz/corpus/$t"
   echo "== fuzz_$t for ${seconds}s"
-  ASAN_OPTIONS=detect_leaks=1 "$bin/fuzz_$t" -max_len=65536 -timeout=2 -rss_limit_mb=512 \
-    -dict=tests/fuzz/html.dict -max_total_time="$seconds" -print_final_stats=1 \
-    -artifact_prefix="build/fuzz/crash-$t-" "$work" "tests/fuzz/corpus/$t" tests/data \
-    2>&1 | grep -E '^(#|==|stat::|INFO: Loaded|SUMMARY|property)' | tail -n 12
+  # shellcheck disable=SC2086
+  "$bin/fuzz_$t" -max_len=65536 -timeout=2 -rss_limit_mb=512 -dict=tests/fuzz/html.dict \
+    -max_total_time="$seconds" -print_final_stats=1 -artifact_prefix="build/fuzz/crash-$t-" \
+    ${FUZZ_FLAGS:-} "$work" "tests/fuzz/corpus/$t" tests/data >"$log" 2>&1
+  status=$?
+  grep -E '^(#[0-9]+[[:space:]]+(INITED|DONE)|stat::|SUMMARY|property failed|.*runtime error|==[0-9]+==ERROR)' \
+    "$log" | tail -n 12
+  if [ $status -ne 0 ]; then
+    echo "!! fuzz_$t failed (exit $status); log: $log"
+    grep -E '^(artifact_prefix|Test unit written)' "$log" || true
+    failed+=("$t")
+  fi
 done
+if [ ${#failed[@]} -ne 0 ]; then
+  echo "FAILED: ${failed[*]}"
+  exit 1
+fi
+echo "all fuzz targets passed"

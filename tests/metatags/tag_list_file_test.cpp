@@ -6,6 +6,7 @@
 #include "base/run_time_error.h"
 #include "decode/meta_tag_table.h"
 #include "fake_platform.h"
+#include "full_disk.h"
 #include "metatags/meta_tag_panel.h"
 #include "test_files.h"
 
@@ -47,6 +48,23 @@ TEST(Save_MetaTag_List, MarkedNonEmptyFieldsOneLineEachWithCommasEncoded) {
   Load_MetaTagList(p.s);
   EXPECT_EQ(p.Text(0), "Title, with comma");
   EXPECT_EQ(p.Text(6), "kept");
+}
+
+TEST(Save_MetaTag_List, AFailingWriteKeepsTheOldFile) {
+  testing::TempFolder folder;
+  testing::FakePlatform platform(folder.path().string());
+  testing::FullDisk disk;
+  AppState s(platform, disk);
+  decode::Init_MetaTag_Table(s);
+  Set_MetaTag_TextBox(s, 0, "Title");
+  s.Form.MetaTag_Selection_CheckBox[0] = 1;
+  const std::string path = folder.File("set.tag");
+  testing::WriteFile(path, "pagetitle:old\r\n");
+  platform.AnswerSave(path);
+  EXPECT_THROW(Save_MetaTag_List(s), file_io::FileError);
+  EXPECT_GT(disk.failedWrites, 0);
+  EXPECT_EQ(ReadFile(path), "pagetitle:old\r\n");
+  EXPECT_EQ(testing::EntriesIn(folder.path()), 1u);
 }
 
 TEST(Apply_MetaTag_List_Text, SkipsUnknownNamesAndLeavesUnnamedFields) {

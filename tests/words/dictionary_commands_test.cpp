@@ -10,6 +10,7 @@
 #include "app/startup.h"
 #include "base/text.h"
 #include "fake_platform.h"
+#include "full_disk.h"
 #include "test_files.h"
 #include "words/filter_dictionary.h"
 
@@ -121,6 +122,34 @@ TEST(EditWordFilters_SAVEAS_Click, WritesTheChosenFileAndMakesItCurrent) {
   p.Click("EditWordFilters_SAVEAS");
   EXPECT_EQ(ReadFile(p.standard), before);
   EXPECT_EQ(p.s.Form.WordFiltersPage_CurrentWordDictionary_Text, target);
+}
+
+// Both saves of the dictionary keep the old file whole when the write fails; "Save As" then
+// leaves the current dictionary as it was.
+TEST(EditWordFilters_SAVEAS_Click, AFailingWriteKeepsTheOldFileAndTheCurrentName) {
+  testing::ShellProgramFolder folder;
+  testing::FakePlatform platform{folder.Path()};
+  testing::FullDisk disk;
+  AppState s(platform, disk);
+  app::Form_Load(s);
+  s.Form.WordFiltersPage_WordDictionary = "b\r\na\r\n";
+  const std::string current = s.Form.WordFiltersPage_CurrentWordDictionary_Text;
+  const std::string target = folder.File("saved.txt");
+  WriteFile(target, "old words\r\n");
+  platform.AnswerSave(target);
+  EXPECT_THROW(EditWordFilters_SAVEAS_Click(s), file_io::FileError);
+  EXPECT_EQ(ReadFile(target), "old words\r\n");
+  EXPECT_EQ(s.Form.WordFiltersPage_CurrentWordDictionary_Text, current);
+
+  const std::string standard = Standard_Dictionary_Path(s);
+  const std::string before = ReadFile(standard);
+  s.Form.WordFiltersPage_CurrentWordDictionary_Text = target;  // no question for another file
+  EXPECT_THROW(EditWordFilters_SAVE_Click(s), file_io::FileError);
+  EXPECT_EQ(ReadFile(standard), before);
+  EXPECT_EQ(disk.failedWrites, 2);
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path()))
+    EXPECT_EQ(entry.path().filename().string().find(".zentrel-"), std::string::npos)
+        << entry.path();
 }
 
 TEST(WordFiltersPage_ResetDefaultWordDictionary_Button_Click, KeepsTheWordsInUse) {
