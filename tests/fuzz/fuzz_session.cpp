@@ -12,14 +12,8 @@
 
 namespace zentrel::fuzz {
 
-std::string FuzzPlatform::ExecutableFolder() {
-  std::error_code ec;
-  auto exe = std::filesystem::read_symlink("/proc/self/exe", ec);
-  return ec ? std::string(".") : exe.parent_path().string();
-}
-
 AppState Started_State() {
-  static FuzzPlatform platform;
+  static app::SilentPlatform platform;
   static const AppState started = [] {
     AppState s(platform);
     app::Form_Load(s);

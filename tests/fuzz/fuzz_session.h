@@ -7,22 +7,9 @@
 #include <string>
 
 #include "app/app_state.h"
-#include "app/platform.h"
+#include "app/silent_platform.h"
 
 namespace zentrel::fuzz {
-
-class FuzzPlatform : public app::Platform {
- public:
-  bool ShowOpen(app::FileDialog&) override { return false; }
-  bool ShowSave(app::FileDialog&) override { return false; }
-  bool AskYesNo(const std::string&, const std::string&) override { return true; }
-  void ShowMessage(const std::string&) override {}
-  void BeginBusy() override {}
-  void EndBusy() override {}
-  void DoEvents() override {}
-  void OpenDocument(const std::string&) override {}
-  std::string ExecutableFolder() override;
-};
 
 // A copy of the state as start-up leaves it.
 AppState Started_State();
