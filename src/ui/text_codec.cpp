@@ -1,5 +1,7 @@
 #include "ui/text_codec.h"
 
+#include <utility>
+
 #include <QFile>
 #include <algorithm>
 
@@ -40,31 +42,32 @@ void Step(std::string_view bytes, Codec codec, std::size_t i, std::size_t& byteC
 
 }  // namespace
 
-int ByteToEditor(std::string_view bytes, Codec codec, std::size_t bytePos) {
+namespace {
+
+// Walks the page's characters from the start until `more` says stop; returns the byte offset
+// and the editor position (UTF-16 units, line ends as the editor counts them) reached.
+template <class More>
+std::pair<std::size_t, int> Walk(std::string_view bytes, Codec codec, More more) {
   int pos = 0;
   std::size_t i = 0;
-  const std::size_t end = std::min(bytePos, bytes.size());
-  while (i < end) {
+  while (i < bytes.size() && more(i, pos)) {
     std::size_t n = 0;
     int units = 0;
     Step(bytes, codec, i, n, units);
     i += n;
     pos += units;
   }
-  return pos;
+  return {i, pos};
+}
+
+}  // namespace
+
+int ByteToEditor(std::string_view bytes, Codec codec, std::size_t bytePos) {
+  return Walk(bytes, codec, [bytePos](std::size_t i, int) { return i < bytePos; }).second;
 }
 
 std::size_t EditorToByte(std::string_view bytes, Codec codec, int editorPos) {
-  int pos = 0;
-  std::size_t i = 0;
-  while (i < bytes.size() && pos < editorPos) {
-    std::size_t n = 0;
-    int units = 0;
-    Step(bytes, codec, i, n, units);
-    i += n;
-    pos += units;
-  }
-  return i;
+  return Walk(bytes, codec, [editorPos](std::size_t, int pos) { return pos < editorPos; }).first;
 }
 
 QString DecodePath(const std::string& path) {
