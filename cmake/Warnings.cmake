@@ -10,8 +10,9 @@ endif()
 
 add_library(zentrel_sanitize INTERFACE)
 if(ZENTREL_WITH_FUZZ)
-  target_compile_options(zentrel_sanitize INTERFACE -fsanitize=fuzzer-no-link,address,undefined
-                                                    -fno-omit-frame-pointer)
+  target_compile_options(
+    zentrel_sanitize INTERFACE -fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer
+    -fsanitize-coverage-ignorelist=${CMAKE_SOURCE_DIR}/tests/fuzz/coverage_ignore.txt)
   target_link_options(zentrel_sanitize INTERFACE -fsanitize=address,undefined)
 elseif(ZENTREL_SANITIZE)
   target_compile_options(zentrel_sanitize INTERFACE -fsanitize=address,undefined

@@ -45,7 +45,7 @@ void Check_Word_Counts(const AppState& s) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   fuzz::Input in(data, size);
-  AppState s = fuzz::Started_State();
+  AppState& s = fuzz::Started_State();
   const uint8_t bits = in.Byte();
   const bool noFilter = in.Byte() & 1;
   Apply_Settings(s, bits);

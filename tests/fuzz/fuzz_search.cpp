@@ -9,7 +9,7 @@ using namespace zentrel;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   fuzz::Input in(data, size);
-  AppState s = fuzz::Started_State();
+  AppState& s = fuzz::Started_State();
   s.Form.EditHtml_SearchCaseFlag = in.Byte() & 1;
   std::string needles[3] = {in.Piece(8), in.Piece(8), in.Piece(8)};
   fuzz::Put_Page(s, in.Rest());

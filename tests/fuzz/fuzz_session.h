@@ -11,8 +11,8 @@
 
 namespace zentrel::fuzz {
 
-// A copy of the state as start-up leaves it.
-AppState Started_State();
+// The state as start-up leaves it; the same object is reset and returned for every input.
+AppState& Started_State();
 // A scratch file path unique to this process.
 std::string Scratch_Path(const std::string& name);
 // Puts bytes into the page source editor and the document cache, as an edit would.
