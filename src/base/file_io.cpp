@@ -76,14 +76,22 @@ void WriteAll(FileSystem& fsys, int fd, std::string_view bytes, const std::strin
   }
 }
 
-constexpr const char* kTempInfix = ".zentrel-";
+constexpr std::string_view kTempInfix = ".zentrel-";
 constexpr size_t kTempRandomLength = 6;  // the XXXXXX of mkstemp
+constexpr size_t kMaxNameLength = 255;   // NAME_MAX of the usual Linux file systems
+
+// The temporary's name before its random part: the target's name, cut short where the whole
+// name would pass the longest name a folder can hold, so long page names can still be saved.
+std::string TempPrefix(const std::string& fileName) {
+  const size_t room = kMaxNameLength - 1 - kTempInfix.size() - kTempRandomLength;
+  return "." + fileName.substr(0, room) + std::string(kTempInfix);
+}
 
 // Removes temporary files of earlier saves of this target that were killed before their
 // rename. Only names this writer makes, and only old ones: a fresh one may be another
 // program's save in progress.
 void RemoveStaleTemps(FileSystem& fsys, const fs::path& dir, const std::string& fileName) {
-  const std::string prefix = "." + fileName + kTempInfix;
+  const std::string prefix = TempPrefix(fileName);
   std::error_code ec;
   const auto now = fs::file_time_type::clock::now();
   for (fs::directory_iterator it(dir.empty() ? fs::path(".") : dir, ec), end; !ec && it != end;
@@ -160,8 +168,8 @@ void WriteFileAtomic(const std::string& path, std::string_view bytes, FileSystem
   }
 
   fs::path dir = fs::path(target).parent_path();
-  std::string temp = (dir.empty() ? fs::path(".") : dir).string() + "/." +
-                     fs::path(target).filename().string() + kTempInfix + "XXXXXX";
+  std::string temp = (dir.empty() ? fs::path(".") : dir).string() + "/" +
+                     TempPrefix(fs::path(target).filename().string()) + "XXXXXX";
   int fd = fsys.MakeTemp(temp);
   if (fd < 0)
     Fail("save", path, "creating a temporary file", errno);

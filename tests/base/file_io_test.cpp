@@ -86,6 +86,15 @@ TEST(WriteFileAtomic, ReplacesTheFileKeepingItsPermissions) {
   EXPECT_EQ(FilesIn(dir.path()), 1u);
 }
 
+TEST(WriteFileAtomic, NamesAsLongAsTheFolderAllowsCanBeSaved) {
+  TempFolder dir;
+  const std::string page = dir.File(std::string(250, 'p') + ".html");
+  WriteFileAtomic(page, "first");
+  WriteFileAtomic(page, "second");
+  EXPECT_EQ(ReadFile(page), "second");
+  EXPECT_EQ(FilesIn(dir.path()), 1u);
+}
+
 TEST(WriteFileAtomic, EveryFailingStepLeavesTheOldFileAndNoTemporary) {
   struct Case {
     FailingFileSystem::Step step;
