@@ -32,6 +32,8 @@ using testing::WriteFile;
 namespace {
 
 enum class Outcome { Report, Overflow, Subscript, FileMessage, Nothing };
+constexpr const char* kOutcomeNames[] = {"report", "run-time error 6", "run-time error 9",
+                                         "file message", "nothing"};
 
 struct Case {
   const char* name;
@@ -214,7 +216,8 @@ TEST_F(Hostile, EveryPageEndsInItsDefinedOutcome) {
     auto start = std::chrono::steady_clock::now();
     Load(path);
     auto ms = std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start);
-    std::cout << "[ hostile  ] " << c.name << ": " << ms.count() << " ms\n";
+    std::cout << "[ hostile  ] " << c.name << ": " << kOutcomeNames[static_cast<int>(c.outcome)]
+              << ", " << ms.count() << " ms\n";
     Expect_Outcome(platform_, *state_, c.outcome);
     Expect_Good_Page_Still_Analyses();
   }
