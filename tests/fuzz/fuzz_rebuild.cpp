@@ -66,8 +66,7 @@ bool Plain_Fields(const std::array<std::string, 13>& fields) {
   return true;
 }
 
-size_t Count_Tags(const std::string& page, const std::string& lowerTag) {
-  const std::string lower = text::LCase(page);
+size_t Count_Tags(const std::string& lower, const std::string& lowerTag) {
   size_t count = 0;
   for (size_t at = lower.find(lowerTag); at != std::string::npos; at = lower.find(lowerTag, at + 1))
     ++count;
@@ -80,8 +79,11 @@ size_t Count_Tags(const std::string& page, const std::string& lowerTag) {
 // title ends at its own ">", whose blanking takes one byte more: the "<" of whatever tag
 // follows, the head tag itself on "<title><head>". So the title, if any, must be closed.
 bool Single_Set_Of_Tags(const std::string& page) {
-  const size_t titles = Count_Tags(page, "<title");
-  return Count_Tags(page, "<meta") == 0 && titles <= 1 && Count_Tags(page, "</title") == titles;
+  const std::string lower = text::LCase(page);
+  const size_t titles = Count_Tags(lower, "<title");
+  const bool closed = titles == 0 || (Count_Tags(lower, "</title>") == 1 &&
+                                      lower.find("<title") < lower.find("</title>"));
+  return Count_Tags(lower, "<meta") == 0 && titles <= 1 && closed;
 }
 
 }  // namespace
