@@ -74,7 +74,8 @@ size_t Count_Tags(const std::string& lower, const std::string& lowerTag) {
 }
 
 // Each run blanks one recorded tag per name: a page holding several tags of one name (or
-// several titles) loses one more of them at the second run. Only pages whose sole META tags
+// several titles) loses one more of them at the second run, and of several head tags the
+// second run may write its block after another one. Only pages whose sole META tags
 // and title are the ones the first run writes can give the same page twice. And an unclosed
 // title ends at its own ">", whose blanking takes one byte more: the "<" of whatever tag
 // follows, the head tag itself on "<title><head>". So the title, if any, must be closed.
@@ -83,7 +84,8 @@ bool Single_Set_Of_Tags(const std::string& page) {
   const size_t titles = Count_Tags(lower, "<title");
   const bool closed = titles == 0 || (Count_Tags(lower, "</title>") == 1 &&
                                       lower.find("<title") < lower.find("</title>"));
-  return Count_Tags(lower, "<meta") == 0 && titles <= 1 && closed;
+  return Count_Tags(lower, "<meta") == 0 && Count_Tags(lower, "<head") <= 1 && titles <= 1 &&
+         closed;
 }
 
 }  // namespace
