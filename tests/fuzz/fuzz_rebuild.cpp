@@ -84,8 +84,16 @@ bool Single_Set_Of_Tags(const std::string& page) {
   const size_t titles = Count_Tags(lower, "<title");
   const bool closed = titles == 0 || (Count_Tags(lower, "</title>") == 1 &&
                                       lower.find("<title") < lower.find("</title>"));
-  return Count_Tags(lower, "<meta") == 0 && Count_Tags(lower, "<head") <= 1 && titles <= 1 &&
-         closed;
+  if (Count_Tags(lower, "<meta") != 0 || Count_Tags(lower, "<head") > 1 || titles > 1 || !closed)
+    return false;
+  // A title or body tag before the head moves the head when it is blanked or rewritten, and
+  // the second run then finds its place elsewhere.
+  const size_t head = lower.find("<head");
+  for (const char* later : {"<title", "<body", "</body"}) {
+    if (head != std::string::npos && lower.find(later) < head)
+      return false;
+  }
+  return true;
 }
 
 }  // namespace

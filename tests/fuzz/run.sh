@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# Builds the fuzz targets and runs each for SECONDS (default 60) after replaying its corpus:
-# the working corpus in build/fuzz/corpus, the committed seeds and tests/data, with the token
-# dictionary. Exits non-zero when any target crashed, broke a property, leaked, timed out or
-# ran out of memory; the reproducer is left as build/fuzz/crash-TARGET-*.
+# Builds the fuzz targets and runs each for SECONDS (default 60) after running the inputs of
+# earlier findings (tests/fuzz/regressions/TARGET) and replaying its corpus: the working corpus
+# in build/fuzz/corpus, the committed seeds and tests/data, with the token dictionary. Exits
+# non-zero when any target crashed, broke a property, leaked, timed out or ran out of memory;
+# the reproducer is left as build/fuzz/crash-TARGET-*.
 # Usage: tests/fuzz/run.sh [SECONDS] [TARGET...]
 # Extra libFuzzer flags may be given in FUZZ_FLAGS (e.g. FUZZ_FLAGS="-jobs=1 -workers=1").
 set -uo pipefail
@@ -22,6 +23,14 @@ for t in "${targets[@]}"; do
   work=build/fuzz/corpus/$t
   log=build/fuzz/fuzz_$t.log
   mkdir -p "$work" "tests/fuzz/corpus/$t"
+  # Inputs of earlier findings are run one by one first; they are kept out of the seeds so
+  # that the short runs do not spend their minute mutating the oddest pages.
+  regressions=(tests/fuzz/regressions/$t/*)
+  if [ -e "${regressions[0]}" ] && ! "$bin/fuzz_$t" "${regressions[@]}" >"$log" 2>&1; then
+    echo "!! fuzz_$t failed on a regression input; log: $log"
+    failed+=("$t")
+    continue
+  fi
   echo "== fuzz_$t for ${seconds}s"
   # shellcheck disable=SC2086
   "$bin/fuzz_$t" -max_len=65536 -timeout=2 -rss_limit_mb=512 -dict=tests/fuzz/html.dict \
