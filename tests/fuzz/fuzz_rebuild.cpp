@@ -79,7 +79,7 @@ size_t Count_Tags(const std::string& lower, const std::string& lowerTag) {
 // and title are the ones the first run writes can give the same page twice. And an unclosed
 // title ends at its own ">", whose blanking takes one byte more: the "<" of whatever tag
 // follows, the head tag itself on "<title><head>". So the title, if any, must be closed.
-bool Single_Set_Of_Tags(const std::string& page) {
+bool Stable_Under_Rebuild(const std::string& page) {
   const std::string lower = text::LCase(page);
   const size_t titles = Count_Tags(lower, "<title");
   const bool closed = titles == 0 || (Count_Tags(lower, "</title>") == 1 &&
@@ -131,7 +131,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
                         once.compare(once.size() - tail.size(), tail.size(), tail) == 0,
                     "bytes after the rewritten head are unchanged");
     }
-    if (!Plain_Fields(fields) || !plainHead || !Single_Set_Of_Tags(page))
+    if (!Plain_Fields(fields) || !plainHead || !Stable_Under_Rebuild(page))
       return 0;
     fuzz::Count("second run compared");
     const std::string twice = Rebuild(s, target);
