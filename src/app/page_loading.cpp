@@ -20,6 +20,17 @@ namespace {
 constexpr int16_t kRecentShown = 5;
 constexpr int16_t kRecentCaptionLength = 32;
 
+// Refused before anything changes, so a wrong pick never unloads the page in hand.
+bool Can_Be_A_Page(AppState& s, const std::string& path) {
+  try {
+    file_io::CheckReadableKind(path);
+    return true;
+  } catch (const file_io::FileError& e) {
+    s.platform->ShowMessage(e.what());
+    return false;
+  }
+}
+
 }  // namespace
 
 int32_t Load_File_To_Cache(AppState& s, const std::string& path, int16_t skipRecentList) {
@@ -58,12 +69,15 @@ void Do_Load_File(AppState& s, const std::string& /*path*/, int16_t /*flag*/) {
     return;
   s.DefaultFileTypeIndex = dialog.FilterIndex;
   s.DefaultFileExtension = dialog.DefaultExt;
-  const std::string chosen = dialog.FileName;
-  if (chosen.empty() || !file_io::FileExists(chosen))
+  Load_Chosen_Page(s, dialog.FileName);
+}
+
+void Load_Chosen_Page(AppState& s, const std::string& path) {
+  if (path.empty() || !file_io::FileExists(path) || !Can_Be_A_Page(s, path))
     return;
-  s.DocumentLength = Load_File_To_Cache(s, chosen, 0);
+  s.DocumentLength = Load_File_To_Cache(s, path, 0);
   if (s.DocumentLength != 0)
-    analysis::Meta_Tag_KeyWord_Scan(s, chosen);
+    analysis::Meta_Tag_KeyWord_Scan(s, path);
 }
 
 std::string Do_Select_Load_File(AppState& s, const std::string& filter, int16_t filterIndex,
@@ -86,8 +100,10 @@ void Load_File_QuickLoadMenu(AppState& s, int16_t index) {
   // An entry beyond the list is hidden in the menu and has nothing to open.
   if (index < 0 || index >= s.RecentFileCount)
     return;
-  s.CurrentFileName.clear();
   const std::string path = At(s.RecentFiles, index);
+  if (!Can_Be_A_Page(s, path))
+    return;
+  s.CurrentFileName.clear();
   // Re-opening an entry leaves the list as it is.
   s.DocumentLength = Load_File_To_Cache(s, path, 1);
   if (s.DocumentLength > 0)

@@ -16,6 +16,10 @@ inline constexpr const char* kPageFilter = "(*.html)|*.html|(*.htm)|*.htm|(*.txt
 int32_t Load_File_To_Cache(AppState& s, const std::string& path, int16_t skipRecentList);
 void Add_Recent_File(AppState& s, const std::string& path);
 void Do_Load_File(AppState& s, const std::string& path, int16_t flag);
+// Loads and analyses a page the user chose (in the open dialog, or dropped on the window): a
+// name that is not there does nothing; one that cannot be a page (a folder, device, FIFO or a
+// file over the read ceiling) is reported and the page loaded before stays.
+void Load_Chosen_Page(AppState& s, const std::string& path);
 std::string Do_Select_Load_File(AppState& s, const std::string& filter, int16_t filterIndex,
                                 const std::string& defaultExt);
 void mnu_file_Load_Click(AppState& s);

@@ -3,11 +3,14 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <tuple>
 
 namespace zentrel::file_io {
 
@@ -48,15 +51,117 @@ namespace {
                   " failed: " + std::strerror(err));
 }
 
-// The file a save really replaces: the final target of a symbolic link, so the link stays.
-std::string ResolveTarget(const std::string& path) {
-  std::error_code ec;
-  if (fs::is_symlink(fs::symlink_status(path, ec))) {
-    fs::path target = fs::weakly_canonical(fs::path(path), ec);
-    if (!ec)
-      return target.string();
+// Closes the descriptor on every way out.
+class Descriptor {
+ public:
+  explicit Descriptor(int fd) : fd_(fd) {}
+  ~Descriptor() {
+    if (fd_ >= 0)
+      ::close(fd_);
   }
-  return path;
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  int get() const { return fd_; }
+
+ private:
+  int fd_;
+};
+
+std::string KindOf(mode_t mode) {
+  if (S_ISDIR(mode))
+    return "a folder";
+  if (S_ISCHR(mode) || S_ISBLK(mode))
+    return "a device";
+  if (S_ISFIFO(mode))
+    return "a FIFO (named pipe)";
+  if (S_ISSOCK(mode))
+    return "a socket";
+  return "a special file";
+}
+
+[[noreturn]] void RefuseTooLarge(const std::string& path) {
+  throw FileError("Cannot read \"" + path + "\": it is larger than " +
+                  std::to_string(kMaxReadBytes >> 30) + " GiB, the largest file Zentrel reads");
+}
+
+// Only regular files within the ceiling are read.
+void RefuseUnreadable(const std::string& path, const struct stat& info) {
+  if (!S_ISREG(info.st_mode)) {
+    throw FileError("Cannot read \"" + path + "\": it is " + KindOf(info.st_mode) +
+                    ", not a regular file");
+  }
+  if (info.st_size > kMaxReadBytes)
+    RefuseTooLarge(path);
+}
+
+// The file a save really replaces and what stands there now.
+struct Target {
+  std::string path;
+  bool viaLink = false;
+  bool existed = false;
+  struct stat old {};
+};
+
+// Only a regular file (or nothing) may be replaced; through a link the message says so.
+void RefuseSpecial(const std::string& path, const Target& target) {
+  if (target.existed && !S_ISREG(target.old.st_mode)) {
+    throw FileError("Cannot save \"" + path + "\": it " + (target.viaLink ? "links to " : "is ") +
+                    KindOf(target.old.st_mode) + ", not a regular file");
+  }
+}
+
+// A symbolic link is followed to its final file, so the link stays; one that dangles or loops
+// has no file to replace.
+Target ResolveTarget(const std::string& path) {
+  Target target{path};
+  target.existed = ::lstat(path.c_str(), &target.old) == 0;
+  target.viaLink = target.existed && S_ISLNK(target.old.st_mode);
+  if (target.viaLink) {
+    char* real = ::realpath(path.c_str(), nullptr);
+    if (real == nullptr) {
+      const int err = errno;
+      if (err == ENOENT || err == ENOTDIR)
+        throw FileError("Cannot save \"" + path + "\": it is a symbolic link to a missing file");
+      if (err == ELOOP)
+        throw FileError("Cannot save \"" + path + "\": its symbolic links go round in a loop");
+      Fail("save", path, "following the symbolic link", err);
+    }
+    target.path = real;
+    std::free(real);
+    target.existed = ::lstat(target.path.c_str(), &target.old) == 0;
+  }
+  RefuseSpecial(path, target);
+  return target;
+}
+
+// mkstemp makes the file 0600 and the saver's own: a replaced file keeps its owner, group and
+// mode, a new one gets the usual mode. Only root (or an owner keeping one of its own groups)
+// may set the owner; otherwise the saver's stays, as the mode does where a file system
+// refuses it. The owner goes first: changing it clears the set-user and set-group bits.
+void KeepOwnerAndMode(int fd, const Target& target) {
+  mode_t mode = target.old.st_mode & 07777;
+  if (target.existed) {
+    std::ignore = ::fchown(fd, target.old.st_uid, target.old.st_gid);
+  } else {
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    mode = 0666 & ~mask;
+  }
+  ::fchmod(fd, mode);
+}
+
+// Something other than a regular file may have taken the target's place while the temporary
+// was written; the rename would replace it.
+void RecheckBeforeRename(FileSystem& fsys, const std::string& path, const Target& target,
+                         const std::string& temp) {
+  Target now = target;
+  now.existed = ::lstat(target.path.c_str(), &now.old) == 0;
+  try {
+    RefuseSpecial(path, now);
+  } catch (const FileError&) {
+    fsys.Unlink(temp);
+    throw;
+  }
 }
 
 void WriteAll(FileSystem& fsys, int fd, std::string_view bytes, const std::string& path,
@@ -116,73 +221,66 @@ bool FileExists(const std::string& path) {
   return !path.empty() && ::stat(path.c_str(), &st) == 0;
 }
 
+void CheckReadableKind(const std::string& path) {
+  struct stat info {};
+  if (!path.empty() && ::stat(path.c_str(), &info) == 0)
+    RefuseUnreadable(path, info);
+}
+
 std::string ReadWholeFile(const std::string& path) {
-  std::error_code ec;
-  if (fs::is_directory(path, ec)) {
-    throw FileError("Cannot read \"" + path + "\": it is a folder, not a file");
-  }
-  int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (fd < 0)
+  // Checked before opening, so no device is even opened; then the opened file itself is
+  // checked, in case the path changed in between. Not blocking: a FIFO with no writer would
+  // otherwise hold the open forever.
+  CheckReadableKind(path);
+  Descriptor fd(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
+  if (fd.get() < 0)
     Fail("read", path, "opening", errno);
+  struct stat info {};
+  if (::fstat(fd.get(), &info) != 0)
+    Fail("read", path, "reading the file's attributes", errno);
+  RefuseUnreadable(path, info);
   // Read straight into the string, sized from the file's length: a large page is neither
   // copied through a buffer nor given twice the room it needs. A file that grows meanwhile
-  // is read on to its end.
+  // is read on to its end, but never past the ceiling.
+  constexpr size_t kCeiling = static_cast<size_t>(kMaxReadBytes);
   std::string bytes;
-  struct stat info {};
-  size_t expected = 0;
-  if (::fstat(fd, &info) == 0 && S_ISREG(info.st_mode) && info.st_size > 0)
-    expected = static_cast<size_t>(info.st_size);
   size_t used = 0;
-  bytes.resize(expected + 1);
+  bytes.resize(static_cast<size_t>(info.st_size) + 1);
   while (true) {
-    if (used == bytes.size())
-      bytes.resize(bytes.size() * 2);
-    ssize_t n = ::read(fd, bytes.data() + used, bytes.size() - used);
+    if (used == bytes.size()) {
+      if (used > kCeiling)
+        RefuseTooLarge(path);
+      bytes.resize(std::min(bytes.size() * 2, kCeiling + 1));
+    }
+    ssize_t n = ::read(fd.get(), bytes.data() + used, bytes.size() - used);
     if (n < 0 && errno == EINTR)
       continue;
-    if (n < 0) {
-      int err = errno;
-      ::close(fd);
-      Fail("read", path, "reading", err);
-    }
+    if (n < 0)
+      Fail("read", path, "reading", errno);
     if (n == 0)
       break;
     used += static_cast<size_t>(n);
   }
-  ::close(fd);
   bytes.resize(used);
   return bytes;
 }
 
 void WriteFileAtomic(const std::string& path, std::string_view bytes, FileSystem& fsys) {
-  const std::string target = ResolveTarget(path);
-  std::error_code ec;
-  if (fs::is_directory(target, ec)) {
-    throw FileError("Cannot save \"" + path + "\": it is a folder, not a file");
-  }
-  struct stat old {};
-  const bool existed = ::stat(target.c_str(), &old) == 0;
-  if (existed && fsys.CheckWritable(target) != 0) {
+  const Target target = ResolveTarget(path);
+  if (target.existed && fsys.CheckWritable(target.path) != 0) {
     const int err = errno;
     throw FileError("Cannot save \"" + path + "\": the file is read-only: " + std::strerror(err));
   }
 
-  fs::path dir = fs::path(target).parent_path();
+  fs::path dir = fs::path(target.path).parent_path();
   std::string temp = (dir.empty() ? fs::path(".") : dir).string() + "/" +
-                     TempPrefix(fs::path(target).filename().string()) + "XXXXXX";
+                     TempPrefix(fs::path(target.path).filename().string()) + "XXXXXX";
   int fd = fsys.MakeTemp(temp);
   if (fd < 0)
     Fail("save", path, "creating a temporary file", errno);
 
   WriteAll(fsys, fd, bytes, path, temp);
-  // mkstemp makes the file 0600; a replaced page keeps its mode, a new one gets the usual one.
-  mode_t mode = existed ? (old.st_mode & 07777) : 0644;
-  if (!existed) {
-    mode_t mask = ::umask(0);
-    ::umask(mask);
-    mode = 0666 & ~mask;
-  }
-  ::fchmod(fd, mode);
+  KeepOwnerAndMode(fd, target);
   if (fsys.Fsync(fd) != 0) {
     int err = errno;
     fsys.Close(fd);
@@ -194,12 +292,13 @@ void WriteFileAtomic(const std::string& path, std::string_view bytes, FileSystem
     fsys.Unlink(temp);
     Fail("save", path, "closing", err);
   }
-  if (fsys.Rename(temp, target) != 0) {
+  RecheckBeforeRename(fsys, path, target, temp);
+  if (fsys.Rename(temp, target.path) != 0) {
     int err = errno;
     fsys.Unlink(temp);
     Fail("save", path, "renaming the temporary file", err);
   }
-  RemoveStaleTemps(fsys, dir, fs::path(target).filename().string());
+  RemoveStaleTemps(fsys, dir, fs::path(target.path).filename().string());
 }
 
 std::vector<std::string> ReadListItems(std::string_view content) {

@@ -5,6 +5,7 @@
 // old file. The system calls it makes go through FileSystem so tests can make them fail.
 
 #include <sys/types.h>
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -35,14 +36,29 @@ class FileSystem {
 
 FileSystem& RealFileSystem();
 
-// True exactly when the path's attributes can be read (a folder counts); never throws.
+// True exactly when the path's attributes can be read (a folder, a device or a FIFO counts);
+// never throws.
 bool FileExists(const std::string& path);
 
-// The file's bytes; throws FileError for a missing, unreadable or folder path.
+// The largest file the program reads: far beyond any real page, list or dictionary, and the
+// bound on what an endless or runaway input can cost.
+inline constexpr int64_t kMaxReadBytes = int64_t{1} << 30;  // 1 GiB
+
+// Throws FileError when path is there but is not a file the reader takes: not a regular file
+// (a folder, device, FIFO or socket) or larger than kMaxReadBytes. Never opens the path; a
+// missing or inaccessible path passes, for the reader to report.
+void CheckReadableKind(const std::string& path);
+
+// The bytes of a regular file of at most kMaxReadBytes; throws FileError for anything else
+// (missing, unreadable, a folder, device, FIFO or socket, too large). Never blocks on a FIFO
+// and never reads past the ceiling, even from a file that grows meanwhile.
 std::string ReadWholeFile(const std::string& path);
 
-// Replaces (or creates) path with bytes atomically. A symbolic link is kept and its target
-// replaced; an existing file keeps its permissions; a read-only file is not replaced. Throws
+// Replaces (or creates) path with bytes atomically. Only regular files are replaced: a
+// folder, device, FIFO or socket there is refused, as is a symbolic link that dangles, loops
+// or leads to one of those. A symbolic link to a file is kept and its target replaced; an
+// existing file keeps its permissions, and its owner and group where the process may set
+// them; a read-only file is not replaced. Throws
 // FileError; on failure the old file is untouched and no temporary file is left behind. A
 // save killed before its rename leaves its temporary file: a later successful save of the same
 // file removes such leftovers once they are older than kStaleTempSeconds.

@@ -248,6 +248,9 @@ int Run_Cli(const std::vector<std::string>& args, std::ostream& out, std::ostrea
       return kOk;
     }
     Validate_Options(o);
+    // A missing preferences file means all defaults; one that is there must be readable.
+    if (o.prefs && file_io::FileExists(*o.prefs))
+      Require_Readable(*o.prefs, "--prefs");
     if (o.dictionary)
       Require_Readable(*o.dictionary, "--dictionary");
     if (o.tags)

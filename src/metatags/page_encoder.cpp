@@ -1,6 +1,7 @@
 #include "metatags/page_encoder.h"
 
 #include <algorithm>
+#include <filesystem>
 
 #include "app/app_state.h"
 #include "base/file_io.h"
@@ -46,12 +47,14 @@ class CacheRestore {
   bool armed_ = true;
 };
 
-// The rebuild's carrier file goes on every way out, errors included.
+// The rebuild's carrier file goes on every way out, errors included; something else standing
+// in its place (a FIFO, a device), which the writer refused to replace, stays.
 class TempFileRemover {
  public:
   TempFileRemover(file_io::FileSystem& fs, std::string path) : fs_(fs), path_(std::move(path)) {}
   ~TempFileRemover() {
-    if (!path_.empty() && file_io::FileExists(path_))
+    std::error_code ec;
+    if (!path_.empty() && std::filesystem::is_regular_file(path_, ec))
       fs_.Unlink(path_);
   }
   TempFileRemover(const TempFileRemover&) = delete;

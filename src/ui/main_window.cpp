@@ -13,11 +13,9 @@
 #include <QUrl>
 #include <algorithm>
 
-#include "analysis/analysis_driver.h"
 #include "app/control_table.h"
 #include "app/page_loading.h"
 #include "app/startup.h"
-#include "base/file_io.h"
 #include "ui/about_box.h"
 #include "ui/edit_page_tab.h"
 #include "ui/meta_tags_tab.h"
@@ -150,14 +148,7 @@ void MainWindow::Run(const std::string& name) {
 }
 
 void MainWindow::LoadDroppedFile(const std::string& path) {
-  Sync([&path](AppState& s) {
-    // As after the open dialog: a name that is not a file does nothing.
-    if (!file_io::FileExists(path))
-      return;
-    s.DocumentLength = app::Load_File_To_Cache(s, path, 0);
-    if (s.DocumentLength != 0)
-      analysis::Meta_Tag_KeyWord_Scan(s, path);
-  });
+  Sync([&path](AppState& s) { app::Load_Chosen_Page(s, path); });
 }
 
 void MainWindow::ShowAbout() {

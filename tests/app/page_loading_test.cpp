@@ -3,6 +3,7 @@
 #include "app/page_loading.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -95,6 +96,26 @@ TEST(Do_Load_File, CancelOrAMissingFileChangesNothing) {
   EXPECT_EQ(t.s.Form.Caption, caption);
   EXPECT_EQ(t.s.RecentFileCount, 1);
   EXPECT_TRUE(t.platform.messages.empty());
+}
+
+TEST(Do_Load_File, APathThatCannotBeAPageIsReportedAndThePageInHandStays) {
+  Started t;
+  std::string a = t.Page("a.html"), b = t.Page("b.html");
+  t.Load(a);
+  t.Load(b);
+  const std::string report = t.s.Form.ReportTextBox;
+  // a becomes a FIFO with no writer: opened as before, the load would wait for ever.
+  std::filesystem::remove(a);
+  ASSERT_EQ(::mkfifo(a.c_str(), 0644), 0);
+  ASSERT_TRUE(Dispatch(t.s, "mnu_file_QuickLoadFile2"));
+  t.platform.AnswerOpen(a);
+  Command1_Click(t.s);
+  ASSERT_EQ(t.platform.messages.size(), 2u);
+  EXPECT_NE(t.platform.messages[1].find("\"" + a + "\""), std::string::npos);
+  EXPECT_EQ(t.s.CurrentFileName, b);
+  EXPECT_EQ(t.s.DocumentLength, static_cast<int32_t>(t.page.size()));
+  EXPECT_EQ(t.s.Form.ReportTextBox, report);
+  EXPECT_EQ(t.s.RecentFileCount, 2);
 }
 
 TEST(Clear_Document, NewEmptiesThePageAndTheNextDialogStartsWithNoName) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -73,17 +74,63 @@ size_t FilesIn(const fs::path& dir) {
 
 }  // namespace
 
-TEST(WriteFileAtomic, ReplacesTheFileKeepingItsPermissions) {
+TEST(WriteFileAtomic, ReplacesTheFileKeepingItsModeAndWhenRootItsOwner) {
   TempFolder dir;
   std::string page = dir.File("page.html");
   WriteFile(page, "old");
-  ::chmod(page.c_str(), 0640);
+  const bool root = ::geteuid() == 0;
+  if (root) {
+    ASSERT_EQ(::chown(page.c_str(), 4321, 4322), 0);
+  }
+  ::chmod(page.c_str(), 02750);  // set-group: lost if the owner were set after the mode
   WriteFileAtomic(page, "new bytes");
   EXPECT_EQ(ReadFile(page), "new bytes");
   struct stat st {};
   ::stat(page.c_str(), &st);
-  EXPECT_EQ(st.st_mode & 0777, 0640u);
+  EXPECT_EQ(st.st_mode & 07777, 02750u);
+  if (root) {
+    EXPECT_EQ(st.st_uid, 4321u);
+    EXPECT_EQ(st.st_gid, 4322u);
+  }
   EXPECT_EQ(FilesIn(dir.path()), 1u);
+}
+
+TEST(WriteFileAtomic, OnlyRegularFilesAreReplaced) {
+  TempFolder dir;
+  const std::string fifo = dir.File("fifo");
+  ASSERT_EQ(::mkfifo(fifo.c_str(), 0644), 0);
+  fs::create_directory(dir.File("folder"));
+  fs::create_symlink("nowhere.html", dir.File("dangling"));
+  fs::create_symlink(dir.File("loop"), dir.File("loop"));
+  fs::create_symlink(fifo, dir.File("to-fifo"));
+  std::vector<std::pair<std::string, std::string>> targets = {{"fifo", "FIFO"},
+                                                              {"folder", "folder"},
+                                                              {"dangling", "missing"},
+                                                              {"loop", "loop"},
+                                                              {"to-fifo", "links to a FIFO"}};
+  if (::geteuid() == 0) {  // a device node with the numbers of the null device
+    ASSERT_EQ(::mknod(dir.File("device").c_str(), S_IFCHR | 0666, makedev(1, 3)), 0);
+    targets.emplace_back("device", "device");
+  }
+  const size_t files = FilesIn(dir.path());
+  for (const auto& [name, kind] : targets) {
+    const std::string path = dir.File(name);
+    struct stat before {
+    }, after{};
+    ::lstat(path.c_str(), &before);
+    try {
+      WriteFileAtomic(path, "a page");
+      ADD_FAILURE() << name << " was replaced";
+    } catch (const FileError& e) {
+      const std::string message = e.what();
+      EXPECT_NE(message.find("\"" + path + "\": it"), std::string::npos) << message;
+      EXPECT_NE(message.find(kind), std::string::npos) << message;
+    }
+    ::lstat(path.c_str(), &after);
+    EXPECT_EQ(after.st_ino, before.st_ino) << name;
+    EXPECT_EQ(after.st_mode, before.st_mode) << name;
+  }
+  EXPECT_EQ(FilesIn(dir.path()), files) << "a temporary file was left behind";
 }
 
 TEST(WriteFileAtomic, NamesAsLongAsTheFolderAllowsCanBeSaved) {
@@ -159,18 +206,16 @@ TEST(WriteFileAtomic, StaleTemporariesOfKilledSavesAreRemovedByTheNextSave) {
   EXPECT_TRUE(fs::exists(dir.File(".page.html.zentrel-Fresh1")));
 }
 
-TEST(WriteFileAtomic, SymbolicLinkIsKeptAndFolderTargetRefused) {
+TEST(WriteFileAtomic, AChainOfSymbolicLinksIsKept) {
   TempFolder dir;
   std::string real = dir.File("real.html");
-  std::string link = dir.File("link.html");
   WriteFile(real, "old");
-  fs::create_symlink(real, link);
-  WriteFileAtomic(link, "through the link");
-  EXPECT_TRUE(fs::is_symlink(link));
-  EXPECT_EQ(ReadFile(real), "through the link");
-
-  fs::create_directory(dir.File("folder"));
-  EXPECT_THROW(WriteFileAtomic(dir.File("folder"), "x"), FileError);
+  fs::create_symlink("real.html", dir.File("link.html"));  // relative to its own folder
+  fs::create_symlink(dir.File("link.html"), dir.File("outer.html"));
+  WriteFileAtomic(dir.File("outer.html"), "through the links");
+  EXPECT_TRUE(fs::is_symlink(dir.File("outer.html")) && fs::is_symlink(dir.File("link.html")));
+  EXPECT_EQ(ReadFile(real), "through the links");
+  EXPECT_EQ(FilesIn(dir.path()), 3u);
 }
 
 TEST(WriteFileAtomic, ReadOnlyFolderFailsCleanly) {

@@ -1,11 +1,14 @@
 #include "cli/cli.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
 
 #include <cstdlib>
 #include <filesystem>
 #include <sstream>
 
+#include "base/file_io.h"
 #include "test_files.h"
 
 namespace zentrel::cli {
@@ -133,6 +136,34 @@ TEST(Cli, RebuildWritesTheFieldsAndRefusesSectionErrorsWithoutForce) {
       RunCli({"rebuild", dir.File("bad.html"), "-o", dir.File("bad-out.html"), "--force"}).status,
       0);
   EXPECT_TRUE(fs::exists(dir.File("bad-out.html")));
+}
+
+// What cannot be read (a FIFO with no writer, an endless device, a file over the ceiling)
+// ends the command at once with status 2 and names the file.
+TEST(Cli, FilesThatCannotBeReadEndTheCommandAtOnce) {
+  TempFolder dir;
+  WriteFile(dir.File("page.html"), kSanePage);
+  const std::string page = dir.File("page.html"), fifo = dir.File("fifo");
+  ASSERT_EQ(::mkfifo(fifo.c_str(), 0644), 0);
+  WriteFile(dir.File("huge.html"), "");
+  fs::resize_file(dir.File("huge.html"), static_cast<uintmax_t>(file_io::kMaxReadBytes) + 1);
+  std::vector<std::vector<std::string>> runs = {
+      {"report", fifo},
+      {"report", dir.File("huge.html")},
+      {"report", "--prefs", fifo, page},
+      {"report", "--dictionary", fifo, page},
+      {"rebuild", page, "-o", dir.File("out.html"), "--tags", fifo}};
+  if (::geteuid() == 0) {
+    ASSERT_EQ(::mknod(dir.File("zero").c_str(), S_IFCHR | 0444, makedev(1, 5)), 0);
+    runs.push_back({"report", dir.File("zero")});
+  }
+  for (const auto& args : runs) {
+    Result r = RunCli(args);
+    EXPECT_EQ(r.status, 2) << args[1];
+    EXPECT_NE(r.err.find("\"" + (args.size() == 2 ? args[1] : fifo) + "\""), std::string::npos)
+        << r.err;
+    EXPECT_EQ(r.out, "");
+  }
 }
 
 TEST(Cli, TheRealBinaryRuns) {

@@ -6,8 +6,9 @@
 # error must leave no temporary file (.out.html.zentrel-*) and print a message naming the file,
 # the step and the cause; a kill between the temporary's creation and the rename necessarily
 # leaves the temporary (the old file intact), which is counted apart and cleared by the next
-# save. Then the situations: read-only folder (user and mount), read-only target, a folder as
-# target, a symbolic link as target (kept), a full disk (small tmpfs).
+# save. Then the situations: read-only folder (user and mount), read-only target, a folder, a
+# FIFO, a device or a dangling link as target (all refused), a symbolic link as target (kept),
+# a full disk (small tmpfs).
 # Needs root for the mounts and the unprivileged runs (setpriv); strace: scripts/install-deps.sh.
 # Usage: tests/faults/strace_faults.sh [path/to/zentrel-cli]   (default build/dev/bin)
 set -u
@@ -306,6 +307,25 @@ touch "$out/inside"
 "$cli" rebuild "$page" -o "$out" --set description=x 2>"$work/err"
 situation "folder as target" "it is a folder" "" $?
 [ -d "$out" ] && [ -e "$out/inside" ] || fail "folder as target: folder changed"
+
+# A FIFO, a device (root) and a dangling link as the target: refused, left as they are.
+out=$work/a-fifo
+mkfifo "$out"
+"$cli" rebuild "$page" -o "$out" --set description=x 2>"$work/err"
+situation "FIFO as target" "it is a FIFO" "" $?
+[ -p "$out" ] && [ "$(temps "$work")" -eq 0 ] || fail "FIFO as target: FIFO changed or temporary left"
+if [ "$(id -u)" -eq 0 ]; then
+  out=$work/a-device
+  mknod "$out" c 1 3
+  "$cli" rebuild "$page" -o "$out" --set description=x 2>"$work/err"
+  situation "device as target" "it is a device" "" $?
+  [ -c "$out" ] && [ "$(temps "$work")" -eq 0 ] || fail "device as target: device changed or temporary left"
+fi
+out=$work/a-dangling-link
+ln -s "$work/nowhere.html" "$out"
+"$cli" rebuild "$page" -o "$out" --set description=x 2>"$work/err"
+situation "dangling link as target" "symbolic link to a missing file" "" $?
+[ -L "$out" ] && [ ! -e "$work/nowhere.html" ] || fail "dangling link as target: changed"
 
 # A symbolic link as the target, to a file on another file system: the link stays.
 tried=$((tried + 1))
