@@ -180,6 +180,25 @@ TEST(Cli, AnalyseWritesValidJsonWhateverTheBytes) {
   EXPECT_EQ(line.find("{\"page\":\"" + dir.File("caf\xC3\xA9.html") + "\""), 0u);
 }
 
+// A filter dictionary of more words than its 16-bit count holds, as an option or from the
+// preferences file: the Overflow is reported once, and no page is read.
+TEST(Cli, ARunTimeErrorWhileStartingUpEndsTheRunWithStatusOne) {
+  TempFolder dir;
+  WriteFile(dir.File("big.txt"), testing::OversizedFilterDictionary());
+  WriteFile(dir.File("prefs.txt"), "DefaultWordFilterDictionary:" + dir.File("big.txt") + "\r\n");
+  WriteFile(dir.File("page.html"), kSanePage);
+  const std::string page = dir.File("page.html");
+  for (const auto& args :
+       {std::vector<std::string>{"report", "--dictionary", dir.File("big.txt"), page, page},
+        {"rebuild", "--prefs", dir.File("prefs.txt"), page, "-o", dir.File("out.html")}}) {
+    Result r = RunCli(args);
+    EXPECT_EQ(r.status, 1) << args[0];
+    EXPECT_EQ(r.err, "zentrel-cli: Run-time error '6': Overflow\n");
+    EXPECT_EQ(r.out, "");
+  }
+  EXPECT_FALSE(fs::exists(dir.File("out.html")));
+}
+
 TEST(Cli, RebuildWritesTheFieldsAndRefusesSectionErrorsWithoutForce) {
   TempFolder dir;
   WriteFile(dir.File("page.html"), kSanePage);
