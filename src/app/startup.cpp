@@ -4,7 +4,6 @@
 #include "app/control_table.h"
 #include "app/page_loading.h"
 #include "app/preferences.h"
-#include "base/file_io.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "decode/meta_tag_table.h"
