@@ -1,6 +1,7 @@
 #include "app/control_table.h"
 
 #include <algorithm>
+#include <new>
 
 #include "analysis/analysis_driver.h"
 #include "analysis/report_export.h"
@@ -123,14 +124,20 @@ bool Dispatch(AppState& s, std::string_view name) {
   return true;
 }
 
-void Run_Guarded(AppState& s, const std::function<void(AppState&)>& command) {
+std::optional<std::string> Run_Guarded(AppState& s, const std::function<void(AppState&)>& command) {
+  std::string message;
   try {
     command(s);
+    return std::nullopt;
   } catch (const RunTimeError& e) {
-    s.platform->ShowMessage(e.what());
+    message = e.what();
   } catch (const file_io::FileError& e) {
-    s.platform->ShowMessage(e.what());
+    message = e.what();
+  } catch (const std::bad_alloc&) {
+    message = RunTimeError(RunTimeError::kOutOfMemory, "Out of memory").Message();
   }
+  s.platform->ShowMessage(message);
+  return message;
 }
 
 }  // namespace zentrel::app

@@ -4,6 +4,7 @@
 // returns, so no command can end the program.
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,7 +23,9 @@ struct Control {
 const std::vector<Control>& Control_Table();
 // Runs the handler of the named control; false when no control has that name.
 bool Dispatch(AppState& s, std::string_view name);
-// Runs any command the same guarded way.
-void Run_Guarded(AppState& s, const std::function<void(AppState&)>& command);
+// Runs any command the same guarded way: a run-time error, a file error or a failed allocation
+// ends the command and is shown; its message is returned (nothing when the command ran to its
+// end).
+std::optional<std::string> Run_Guarded(AppState& s, const std::function<void(AppState&)>& command);
 
 }  // namespace zentrel::app

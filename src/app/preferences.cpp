@@ -61,7 +61,7 @@ const Entry kEntries[] = {
 };
 
 // A number read from the start of the value, rounded to nearest (halves to even).
-int64_t Read_Whole_Number(const std::string& value) {
+int64_t Read_Whole_Number(std::string_view value) {
   double rounded = std::nearbyint(text::Val(value));
   // Beyond what any option holds; also keeps the conversion below defined.
   if (!(rounded >= -9.0e18 && rounded <= 9.0e18))
@@ -103,12 +103,12 @@ void Write_Entry(const AppState& s, const Entry& e, std::string& out) {
   }
 }
 
-void Read_Entry(AppState& s, const Entry& e, const std::string& value) {
+void Read_Entry(AppState& s, const Entry& e, std::string_view value) {
   switch (e.Kind) {
     case Format::Constant:
       break;
     case Format::RecentList:
-      Add_Recent_File(s, value);
+      Add_Recent_File(s, std::string(value));
       break;
     case Format::Number16:
       s.*e.Flag = ToInt16(Read_Whole_Number(value));
@@ -129,7 +129,7 @@ void Read_Entry(AppState& s, const Entry& e, const std::string& value) {
   }
 }
 
-const Entry* Find_Entry(const std::string& key) {
+const Entry* Find_Entry(std::string_view key) {
   for (const Entry& e : kEntries) {
     if (e.Key == key)
       return &e;
@@ -169,20 +169,18 @@ void LoadPreferencesFile(AppState& s, const std::string& path) {
   // A value that does not fit its option skips that line only; the rest still counts.
   std::string firstError;
   int skipped = 0;
-  for (const std::string& item : file_io::ReadListItems(content)) {
+  file_io::ReadListItems(content, [&](std::string_view item) {
     auto [key, value] = SplitPreferenceLine(item);
-    if (key.empty())
-      continue;
-    const Entry* entry = Find_Entry(key);
+    const Entry* entry = key.empty() ? nullptr : Find_Entry(key);
     if (entry == nullptr)
-      continue;
+      return;
     try {
       Read_Entry(s, *entry, value);
     } catch (const RunTimeError& e) {
       if (skipped++ == 0)
-        firstError = item + ": " + e.what();
+        firstError = std::string(item) + ": " + e.what();
     }
-  }
+  });
   if (skipped > 0) {
     s.platform->ShowMessage("The preferences file \"" + path + "\" has " + std::to_string(skipped) +
                             " setting(s) that could not be read and keep their values (" +
@@ -190,11 +188,11 @@ void LoadPreferencesFile(AppState& s, const std::string& path) {
   }
 }
 
-std::pair<std::string, std::string> SplitPreferenceLine(const std::string& line) {
+std::pair<std::string_view, std::string_view> SplitPreferenceLine(std::string_view line) {
   if (line.size() < 2)
     return {};
   size_t colon = line.find(':');
-  if (colon == std::string::npos)
+  if (colon == std::string_view::npos)
     return {};
   return {line.substr(0, colon + 1), line.substr(colon + 1)};
 }

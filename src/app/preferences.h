@@ -3,6 +3,7 @@
 // dictionary and the recent pages, read at start-up and written when the program ends.
 
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace zentrel {
@@ -17,7 +18,8 @@ std::string Preferences_Path(const AppState& s);
 void SavePreferencesFile(AppState& s);
 void LoadPreferencesFile(AppState& s);
 void LoadPreferencesFile(AppState& s, const std::string& path);
-// Key (with its ":") and value; both empty when the line has fewer than 2 characters.
-std::pair<std::string, std::string> SplitPreferenceLine(const std::string& line);
+// Key (with its ":") and value, as views into the line; both empty when the line has fewer
+// than 2 characters or no ":".
+std::pair<std::string_view, std::string_view> SplitPreferenceLine(std::string_view line);
 
 }  // namespace zentrel::app

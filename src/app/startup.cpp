@@ -1,9 +1,9 @@
 #include "app/startup.h"
 
 #include "app/app_state.h"
+#include "app/control_table.h"
 #include "app/page_loading.h"
 #include "app/preferences.h"
-#include "base/file_io.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "decode/meta_tag_table.h"
@@ -62,38 +62,60 @@ void Build_Letter_Table(AppState& s) {
     At(s.LetterTable, c) = 1;
 }
 
+using Step = void (*)(AppState&);
+
+// Start-up in its order. Each step runs guarded: a run-time error (a filter dictionary too
+// large for its 16-bit count, say) is shown and ends that step only, so the later steps still
+// build the tables and the program comes up usable.
+constexpr Step kStartupSteps[] = {
+    [](AppState& s) {
+      s.Form.Left = s.Form.ScreenWidth / 2 - s.Form.Width / 2;
+      s.Form.Top = s.Form.ScreenHeight / 2 - s.Form.Height / 2;
+      SET_PROGRAM_TITLE(s, "");
+      s.ProgramFolder = Program_Folder(s.platform->ExecutableFolder());
+    },
+    [](AppState& s) { LoadPreferencesFile(s); },
+    [](AppState& s) {
+      s.UsersKeywordsText.clear();
+      s.FilterDictionaryFile.clear();
+    },
+    decode::Init_MetaTag_Table,
+    document::Build_Tag_list,
+    words::Build_Filter_Word_Dictionary,
+    [](AppState& s) {
+      Set_Setting_Defaults(s);
+      Reset_Default_Html_Word_Delimiter(s);
+    },
+    SET_CHeck_boxes,
+    Build_Letter_Table,
+    [](AppState& s) {
+      words::Init_Get_word_string_Chr_table(s);
+      s.Form.SelectedTab = 0;
+      s.EditorFindText.clear();
+      s.EditorFindPreviousText.clear();
+      s.EditorFindPosition = 1;
+    },
+    [](AppState& s) { LoadPreferencesFile(s); },
+    Show_Quick_Load_File_MNU_Listings,
+    [](AppState& s) {
+      SET_CHeck_boxes(s);
+      SET_PROGRAM_TITLE(s, "");
+    },
+    metatags::Set_Drop_Downs,
+    [](AppState& s) { words::Load_Default_Word_Filters(s, s.FilterDictionaryFile); },
+};
+
 }  // namespace
 
-void Form_Load(AppState& s) {
-  Init_Programs_Defaults(s);
+bool Form_Load(AppState& s) {
+  return Init_Programs_Defaults(s);
 }
 
-void Init_Programs_Defaults(AppState& s) {
-  s.Form.Left = s.Form.ScreenWidth / 2 - s.Form.Width / 2;
-  s.Form.Top = s.Form.ScreenHeight / 2 - s.Form.Height / 2;
-  SET_PROGRAM_TITLE(s, "");
-  s.ProgramFolder = Program_Folder(s.platform->ExecutableFolder());
-  LoadPreferencesFile(s);
-  s.UsersKeywordsText.clear();
-  s.FilterDictionaryFile.clear();
-  decode::Init_MetaTag_Table(s);
-  document::Build_Tag_list(s);
-  words::Build_Filter_Word_Dictionary(s);
-  Set_Setting_Defaults(s);
-  Reset_Default_Html_Word_Delimiter(s);
-  SET_CHeck_boxes(s);
-  Build_Letter_Table(s);
-  words::Init_Get_word_string_Chr_table(s);
-  s.Form.SelectedTab = 0;
-  s.EditorFindText.clear();
-  s.EditorFindPreviousText.clear();
-  s.EditorFindPosition = 1;
-  LoadPreferencesFile(s);
-  Show_Quick_Load_File_MNU_Listings(s);
-  SET_CHeck_boxes(s);
-  SET_PROGRAM_TITLE(s, "");
-  metatags::Set_Drop_Downs(s);
-  words::Load_Default_Word_Filters(s, s.FilterDictionaryFile);
+bool Init_Programs_Defaults(AppState& s) {
+  bool completed = true;
+  for (Step step : kStartupSteps)
+    completed = !Run_Guarded(s, step) && completed;
+  return completed;
 }
 
 void SET_PROGRAM_TITLE(AppState& s, const std::string& suffix) {
@@ -140,11 +162,7 @@ void Form_Unload(AppState& s) {
 void ProgramEnded(AppState& s) {
   // A preferences file that cannot be written must not keep the program from closing; the
   // atomic writer has left the old file as it was.
-  try {
-    SavePreferencesFile(s);
-  } catch (const file_io::FileError& e) {
-    s.platform->ShowMessage(e.what());
-  }
+  Run_Guarded(s, SavePreferencesFile);
   s.Form.ProgramHasEnded = true;
 }
 

@@ -12,8 +12,10 @@ namespace zentrel::app {
 inline constexpr const char* kProgramName = "Zentrel";
 inline constexpr const char* kProgramVersion = "V1.62";
 
-void Form_Load(AppState& s);
-void Init_Programs_Defaults(AppState& s);
+// Brings the program up; false when a step ended in an error (already shown, the other steps
+// done).
+bool Form_Load(AppState& s);
+bool Init_Programs_Defaults(AppState& s);
 void SET_PROGRAM_TITLE(AppState& s, const std::string& suffix);
 void Reset_Default_Html_Word_Delimiter(AppState& s);
 void SET_CHeck_boxes(AppState& s);

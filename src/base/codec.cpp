@@ -14,6 +14,8 @@ constexpr std::array<char32_t, 32> kHigh = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
+constexpr char32_t kReplacement = 0xFFFD;
+
 char32_t CodePointOf(unsigned char byte) {
   return (byte >= 0x80 && byte <= 0x9F) ? kHigh[byte - 0x80] : static_cast<char32_t>(byte);
 }
@@ -53,38 +55,63 @@ int ByteFor(char32_t cp) {
   return -1;
 }
 
+// The length of the well-formed UTF-8 sequence that starts at i (no overlong forms, no
+// surrogates, nothing above U+10FFFF); 0 when none starts there.
+size_t SequenceAt(std::string_view s, size_t i) {
+  const auto b = static_cast<unsigned char>(s[i]);
+  size_t extra;
+  char32_t min;
+  if (b < 0x80)
+    return 1;
+  if (b >= 0xC2 && b <= 0xDF) {
+    extra = 1, min = 0x80;
+  } else if (b >= 0xE0 && b <= 0xEF) {
+    extra = 2, min = 0x800;
+  } else if (b >= 0xF0 && b <= 0xF4) {
+    extra = 3, min = 0x10000;
+  } else {
+    return 0;
+  }
+  if (i + extra >= s.size())
+    return 0;
+  char32_t cp = b & (0x3F >> extra);
+  for (size_t k = 1; k <= extra; ++k) {
+    const auto c = static_cast<unsigned char>(s[i + k]);
+    if ((c & 0xC0) != 0x80)
+      return 0;
+    cp = (cp << 6) | (c & 0x3F);
+  }
+  if (cp < min || cp > 0x10FFFF || (cp >= 0xD800 && cp <= 0xDFFF))
+    return 0;
+  return extra + 1;
+}
+
+// UTF-8 text kept as it is, each byte that starts no well-formed sequence replaced by U+FFFD,
+// as the window's text boxes show such bytes.
+std::string RepairUtf8(std::string_view s) {
+  std::string out;
+  out.reserve(s.size());
+  for (size_t i = 0; i < s.size();) {
+    const size_t length = SequenceAt(s, i);
+    if (length == 0) {
+      AppendUtf8(out, kReplacement);
+      ++i;
+    } else {
+      out.append(s.substr(i, length));
+      i += length;
+    }
+  }
+  return out;
+}
+
 }  // namespace
 
 bool IsValidUtf8(std::string_view s) {
-  size_t i = 0;
-  while (i < s.size()) {
-    auto b = static_cast<unsigned char>(s[i]);
-    int extra;
-    char32_t min;
-    if (b < 0x80) {
-      ++i;
-      continue;
-    } else if (b >= 0xC2 && b <= 0xDF) {
-      extra = 1, min = 0x80;
-    } else if (b >= 0xE0 && b <= 0xEF) {
-      extra = 2, min = 0x800;
-    } else if (b >= 0xF0 && b <= 0xF4) {
-      extra = 3, min = 0x10000;
-    } else {
+  for (size_t i = 0; i < s.size();) {
+    const size_t length = SequenceAt(s, i);
+    if (length == 0)
       return false;
-    }
-    if (i + static_cast<size_t>(extra) >= s.size())
-      return false;
-    char32_t cp = b & (0x3F >> extra);
-    for (int k = 1; k <= extra; ++k) {
-      auto c = static_cast<unsigned char>(s[i + static_cast<size_t>(k)]);
-      if ((c & 0xC0) != 0x80)
-        return false;
-      cp = (cp << 6) | (c & 0x3F);
-    }
-    if (cp < min || cp > 0x10FFFF || (cp >= 0xD800 && cp <= 0xDFFF))
-      return false;
-    i += static_cast<size_t>(extra) + 1;
+    i += length;
   }
   return true;
 }
@@ -95,7 +122,7 @@ Codec DetectCodec(std::string_view bytes) {
 
 std::string ToUtf8(std::string_view bytes, Codec codec) {
   if (codec == Codec::Utf8)
-    return std::string(bytes);
+    return IsValidUtf8(bytes) ? std::string(bytes) : RepairUtf8(bytes);
   std::string out;
   out.reserve(bytes.size() + bytes.size() / 4);
   for (char c : bytes)

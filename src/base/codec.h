@@ -13,7 +13,8 @@ enum class Codec { Utf8, Windows1252 };
 bool IsValidUtf8(std::string_view bytes);
 Codec DetectCodec(std::string_view bytes);
 
-// Bytes in the given codec to UTF-8 text, and back.
+// Bytes in the given codec to UTF-8 text, and back. The result is always valid UTF-8: in
+// the UTF-8 codec a byte that starts no well-formed sequence becomes U+FFFD.
 std::string ToUtf8(std::string_view bytes, Codec codec);
 // Characters that Windows-1252 cannot hold become "?".
 std::string FromUtf8(std::string_view utf8, Codec codec);

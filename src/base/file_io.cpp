@@ -301,8 +301,7 @@ void WriteFileAtomic(const std::string& path, std::string_view bytes, FileSystem
   RemoveStaleTemps(fsys, dir, fs::path(target.path).filename().string());
 }
 
-std::vector<std::string> ReadListItems(std::string_view content) {
-  std::vector<std::string> items;
+void ReadListItems(std::string_view content, const std::function<void(std::string_view)>& each) {
   size_t i = 0;
   const size_t n = content.size();
   auto at_line_end = [&](size_t k) { return content[k] == '\r' || content[k] == '\n'; };
@@ -315,12 +314,12 @@ std::vector<std::string> ReadListItems(std::string_view content) {
   while (i < n) {
     while (i < n && (content[i] == ' ' || content[i] == '\t'))
       ++i;
-    std::string item;
+    std::string_view item;
     if (i < n && content[i] == '"') {
       size_t close = content.find('"', i + 1);
       if (close == std::string_view::npos)
         close = n;
-      item.assign(content.substr(i + 1, close - i - 1));
+      item = content.substr(i + 1, close - i - 1);
       i = close < n ? close + 1 : n;
       while (i < n && content[i] != ',' && !at_line_end(i))
         ++i;  // rest after the quote
@@ -328,20 +327,19 @@ std::vector<std::string> ReadListItems(std::string_view content) {
       size_t start = i;
       while (i < n && content[i] != ',' && !at_line_end(i))
         ++i;
-      item.assign(content.substr(start, i - start));
+      item = content.substr(start, i - start);
       while (!item.empty() && (item.back() == ' ' || item.back() == '\t'))
-        item.pop_back();
+        item.remove_suffix(1);
     }
-    items.push_back(std::move(item));
+    each(item);
     if (i < n && content[i] == ',') {
       ++i;
       if (i == n)
-        items.emplace_back();
+        each({});
     } else {
       skip_line_end();
     }
   }
-  return items;
 }
 
 }  // namespace zentrel::file_io

@@ -6,10 +6,10 @@
 
 #include <sys/types.h>
 #include <cstdint>
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace zentrel::file_io {
 
@@ -68,7 +68,8 @@ void WriteFileAtomic(const std::string& path, std::string_view bytes,
 
 // Reads items the way comma-delimited text input does: leading blanks skipped, a value in
 // double quotes taken without them (commas included), otherwise the item ends at a comma or
-// at the end of the line (CR LF, LF or CR) with trailing blanks dropped.
-std::vector<std::string> ReadListItems(std::string_view content);
+// at the end of the line (CR LF, LF or CR) with trailing blanks dropped. Calls `each` with
+// every item in order, as a view into content: a file of millions of items costs no copies.
+void ReadListItems(std::string_view content, const std::function<void(std::string_view)>& each);
 
 }  // namespace zentrel::file_io

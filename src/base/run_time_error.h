@@ -13,6 +13,7 @@ class RunTimeError : public std::runtime_error {
  public:
   static constexpr int kInvalidProcedureCall = 5;
   static constexpr int kOverflow = 6;
+  static constexpr int kOutOfMemory = 7;
   static constexpr int kSubscriptOutOfRange = 9;
 
   RunTimeError(int code, const std::string& text);

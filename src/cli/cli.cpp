@@ -1,16 +1,16 @@
 #include "cli/cli.h"
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 
 #include "analysis/analysis_driver.h"
 #include "analysis/report_export.h"
 #include "app/app_state.h"
+#include "app/control_table.h"
 #include "app/page_loading.h"
-#include "app/preferences.h"
 #include "app/startup.h"
 #include "base/file_io.h"
-#include "base/run_time_error.h"
 #include "cli/cli_platform.h"
 #include "cli/json_output.h"
 #include "decode/decoder.h"
@@ -50,7 +50,10 @@ constexpr const char* kUsageText =
     "  --include-word-count  tick \"Include Word Count\"\n"
     "  --show-raw-body       tick \"Show Raw Body\"\n"
     "\n"
-    "Exit status: 0 success; 1 a page failed; 2 bad usage or a file that cannot be read.\n";
+    "Exit status: 0 success; 1 a page failed (validation failed, rebuild refused, run-time\n"
+    "error), or a run-time error while starting up (a filter dictionary, from --dictionary or\n"
+    "the preferences file, of more words than its 16-bit count holds, say): the message goes\n"
+    "to stderr and no page is read; 2 bad usage or a file that cannot be read.\n";
 
 struct Options {
   std::string command;
@@ -133,68 +136,81 @@ void Require_Readable(const std::string& path, const std::string& what) {
   }
 }
 
-// A fresh session per page, brought up as the window would, with the options applied.
+void Apply_Options(AppState& s, const Options& o) {
+  if (o.dictionary)
+    words::Load_Default_Word_Filters(s, *o.dictionary);
+  if (o.keywords)
+    analysis::Set_Users_METATAGS_TextBox(s, *o.keywords);
+  if (o.includeWordCount) {
+    s.Form.PageReport_Export_WordCount_CheckBox = 1;
+    analysis::PageReport_Export_WordCount_CheckBox_Click(s);
+  }
+  if (o.showRawBody) {
+    s.Form.ViewBody_ShowRAWBODY_CHeckBox = 1;
+    analysis::ViewBody_ShowRAWBODY_CHeckBox_Click(s);
+  }
+}
+
+// A fresh session per page, brought up as the window would, with the options applied. Every
+// command runs through the window's guarded path: a run-time error ends that command and is
+// shown on stderr, as the window shows it in a message box.
 class Session {
  public:
   Session(const Options& o, std::ostream& err, const std::string& folder)
       : platform_(err, folder, o.force), state_(platform_) {
     state_.PreferencesFileOverride = o.prefs.value_or("");
-    app::Form_Load(state_);
-    if (o.dictionary)
-      words::Load_Default_Word_Filters(state_, *o.dictionary);
-    if (o.keywords)
-      analysis::Set_Users_METATAGS_TextBox(state_, *o.keywords);
-    if (o.includeWordCount) {
-      state_.Form.PageReport_Export_WordCount_CheckBox = 1;
-      analysis::PageReport_Export_WordCount_CheckBox_Click(state_);
-    }
-    if (o.showRawBody) {
-      state_.Form.ViewBody_ShowRAWBODY_CHeckBox = 1;
-      analysis::ViewBody_ShowRAWBODY_CHeckBox_Click(state_);
-    }
+    platform_.SetSubject("zentrel-cli");
+    started_ = app::Form_Load(state_) &&
+               !app::Run_Guarded(state_, [&o](AppState& s) { Apply_Options(s, o); });
+    platform_.SetSubject("");
   }
 
+  // False when start-up or an option ended in an error (already on stderr).
+  bool Started() const { return started_; }
   AppState& state() { return state_; }
 
   // Loads as "Load Page" does (recent list untouched); false when the file cannot be read.
   bool Load(const std::string& page) {
+    page_ = page;
     int before = platform_.messagesShown();
     state_.DocumentLength = app::Load_File_To_Cache(state_, page, 1);
     return platform_.messagesShown() == before;
   }
 
+  // Runs a command on the loaded page; the message of the error that ended it, shown on stderr
+  // after the page's name.
+  std::optional<std::string> Run(const std::function<void(AppState&)>& command) {
+    platform_.SetSubject(page_);
+    std::optional<std::string> error = app::Run_Guarded(state_, command);
+    platform_.SetSubject("");
+    return error;
+  }
+
  private:
   CliPlatform platform_;
   AppState state_;
+  bool started_ = false;
+  std::string page_;
 };
 
-// Loads and analyses one page; the run-time error that ended the analysis, if any.
-std::optional<std::string> Analyse(Session& session, const std::string& page) {
-  AppState& s = session.state();
-  try {
-    if (s.DocumentLength != 0)
-      analysis::Meta_Tag_KeyWord_Scan(s, page);
-  } catch (const RunTimeError& e) {
-    return std::string(e.what());
-  }
-  return std::nullopt;
-}
-
-int Run_Page(const Options& o, const std::string& page, std::ostream& out, std::ostream& err,
-             const std::string& folder) {
-  Session session(o, err, folder);
-  AppState& s = session.state();
+int Run_Page(Session& session, const Options& o, const std::string& page, std::ostream& out) {
   if (!session.Load(page))
     return kUsage;
   if (o.command == "validate") {
-    decode::HTML_ReScan_Document(s);
-    std::string problem = decode::HTML_VALIDATE_Document_Sections(s);
+    std::string problem;
+    if (session.Run([&problem](AppState& s) {
+          decode::HTML_ReScan_Document(s);
+          problem = decode::HTML_VALIDATE_Document_Sections(s);
+        }))
+      return kPageFailed;
     out << page << ": " << (problem.empty() ? "OK" : problem) << "\n";
     return problem.empty() ? kOk : kPageFailed;
   }
-  std::optional<std::string> error = Analyse(session, page);
-  if (error)
-    err << page << ": " << *error << "\n";
+  const AppState& s = session.state();
+  std::optional<std::string> error;
+  if (s.DocumentLength != 0) {
+    error = session.Run([&page](AppState& st) { analysis::Meta_Tag_KeyWord_Scan(st, page); });
+  }
   if (o.command == "report")
     out << s.Form.ReportTextBox;
   if (o.command == "analyse")
@@ -205,32 +221,33 @@ int Run_Page(const Options& o, const std::string& page, std::ostream& out, std::
 int Run_Rebuild(const Options& o, std::ostream& err, const std::string& folder) {
   const std::string& page = o.pages.front();
   Session session(o, err, folder);
-  AppState& s = session.state();
+  if (!session.Started())
+    return kPageFailed;
+  std::vector<std::pair<int16_t, std::string>> fields;
+  for (const auto& [name, value] : o.sets) {
+    int16_t i = decode::Find_MetaTag_Index(session.state(), name);
+    if (i < 0 || i >= app::kMetaTagFieldCount) {
+      err << "zentrel-cli: --set: unknown META tag name " << name << "\n";
+      return kUsage;
+    }
+    fields.emplace_back(i, value);
+  }
   if (!session.Load(page))
     return kUsage;
-  try {
-    if (s.DocumentLength != 0)
-      analysis::Meta_Tag_KeyWord_Scan(s, page);
-    metatags::MetaTagFunctions_MArk_ALL_Checkboxes_Click(s);
-    if (o.tags)
-      metatags::Apply_MetaTag_List_Text(s, file_io::ReadWholeFile(*o.tags));
-    for (const auto& [name, value] : o.sets) {
-      int16_t i = decode::Find_MetaTag_Index(s, name);
-      if (i < 0 || i >= app::kMetaTagFieldCount) {
-        err << "zentrel-cli: --set: unknown META tag name " << name << "\n";
-        return kUsage;
-      }
-      metatags::Set_MetaTag_TextBox(s, i, value);
-    }
-    if (!metatags::HTML_ENCODE_Document(s, *o.out, 0)) {
-      err << page << ": nothing written\n";
-      return kPageFailed;
-    }
-  } catch (const RunTimeError& e) {
-    err << page << ": " << e.what() << "\n";
+  bool written = false;
+  if (session.Run([&](AppState& s) {
+        if (s.DocumentLength != 0)
+          analysis::Meta_Tag_KeyWord_Scan(s, page);
+        metatags::MetaTagFunctions_MArk_ALL_Checkboxes_Click(s);
+        if (o.tags)
+          metatags::Apply_MetaTag_List_Text(s, file_io::ReadWholeFile(*o.tags));
+        for (const auto& [i, value] : fields)
+          metatags::Set_MetaTag_TextBox(s, i, value);
+        written = metatags::HTML_ENCODE_Document(s, *o.out, 0);
+      }))
     return kPageFailed;
-  } catch (const file_io::FileError& e) {
-    err << page << ": " << e.what() << "\n";
+  if (!written) {
+    err << page << ": nothing written\n";
     return kPageFailed;
   }
   return kOk;
@@ -263,7 +280,10 @@ int Run_Cli(const std::vector<std::string>& args, std::ostream& out, std::ostrea
     return Run_Rebuild(o, err, executableFolder);
   int status = kOk;
   for (const std::string& page : o.pages) {
-    status = std::max(status, Run_Page(o, page, out, err, executableFolder));
+    Session session(o, err, executableFolder);
+    if (!session.Started())
+      return kPageFailed;  // every page would meet the same error
+    status = std::max(status, Run_Page(session, o, page, out));
   }
   return status;
 }

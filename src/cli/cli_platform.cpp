@@ -9,6 +9,8 @@ bool CliPlatform::AskYesNo(const std::string& title, const std::string& text) {
 
 void CliPlatform::ShowMessage(const std::string& text) {
   ++messages_;
+  if (!subject_.empty())
+    err_ << subject_ << ": ";
   err_ << text << "\n";
 }
 

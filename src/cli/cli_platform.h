@@ -25,12 +25,15 @@ class CliPlatform : public app::Platform {
   std::string ExecutableFolder() override { return folder_; }
 
   int messagesShown() const { return messages_; }
+  // What the messages are about (the program, a page): written before each one, when set.
+  void SetSubject(std::string subject) { subject_ = std::move(subject); }
 
  private:
   std::ostream& err_;
   std::string folder_;
   bool answerYes_;
   int messages_ = 0;
+  std::string subject_;
 };
 
 }  // namespace zentrel::cli

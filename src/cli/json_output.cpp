@@ -41,6 +41,12 @@ void Quoted(std::ostream& out, const std::string& utf8) {
   out << '"';
 }
 
+// A text that is not the page's own (the path as given, the error) in its own codec, so a
+// file name in another encoding than the page still gives valid UTF-8.
+void QuotedOwnCodec(std::ostream& out, const std::string& bytes) {
+  Quoted(out, codec::ToUtf8(bytes, codec::DetectCodec(bytes)));
+}
+
 }  // namespace
 
 void Write_Analysis_Json(std::ostream& out, const AppState& s, const std::string& page,
@@ -52,10 +58,10 @@ void Write_Analysis_Json(std::ostream& out, const AppState& s, const std::string
     Quoted(out, codec::ToUtf8(bytes, c));
   };
   out << "{\"page\":";
-  Quoted(out, page);
+  QuotedOwnCodec(out, page);
   out << ",\"error\":";
   if (error) {
-    Quoted(out, *error);
+    QuotedOwnCodec(out, *error);
   } else {
     out << "null";
   }

@@ -35,18 +35,18 @@ std::string MetaTag_List_Text(const AppState& s) {
 
 // Only marked fields take a value; a marked field the text does not name keeps its own.
 void Apply_MetaTag_List_Text(AppState& s, const std::string& content) {
-  for (const std::string& item : file_io::ReadListItems(content)) {
+  file_io::ReadListItems(content, [&s](std::string_view item) {
     auto [key, value] = app::SplitPreferenceLine(item);
     if (key.size() > 1)
-      key.pop_back();
-    int16_t index = decode::Find_MetaTag_Index(s, key);
+      key.remove_suffix(1);
+    int16_t index = decode::Find_MetaTag_Index(s, std::string(key));
     if (index < 0)
-      continue;
+      return;
     // "title" and "zentrel" have no field: their check-box lookup is out of range.
     if (At(s.Form.MetaTag_Selection_CheckBox, index) != 1)
-      continue;
+      return;
     Set_MetaTag_TextBox(s, index, text::ReplaceAll(value, kComma, ","));
-  }
+  });
 }
 
 void Save_MetaTag_List(AppState& s) {

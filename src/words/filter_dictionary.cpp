@@ -33,10 +33,10 @@ void Load_Word_Filter_Dictionary(AppState& s, const std::string& path,
     return;  // a folder or an unreadable file loads nothing, like a missing one
   }
   std::string box = textToAppendTo;
-  for (const std::string& item : file_io::ReadListItems(content)) {
+  file_io::ReadListItems(content, [&box](std::string_view item) {
     box += item;
     box += text::kCrLf;
-  }
+  });
   s.Form.WordFiltersPage_WordDictionary = std::move(box);
 }
 

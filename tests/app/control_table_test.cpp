@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
 #include <set>
 
 #include "app/app_state.h"
@@ -38,6 +39,15 @@ TEST(Dispatch, EveryControlRunsOnAFreshlyStartedProgram) {
   EXPECT_TRUE(s.Form.ProgramHasEnded);  // "&Quit" was among them
   EXPECT_FALSE(Dispatch(s, "No_Such_Control"));
   EXPECT_FALSE(Dispatch(s, "command1"));  // names are case-sensitive
+}
+
+TEST(Run_Guarded, AnErrorEndsTheCommandAndIsShownOnce) {
+  testing::FakePlatform platform;
+  AppState s(platform);
+  EXPECT_EQ(Run_Guarded(s, [](AppState&) {}), std::nullopt);
+  EXPECT_EQ(Run_Guarded(s, [](AppState&) { throw std::bad_alloc(); }),
+            "Run-time error '7': Out of memory");
+  EXPECT_EQ(platform.messages, std::vector<std::string>{"Run-time error '7': Out of memory"});
 }
 
 }  // namespace

@@ -38,7 +38,7 @@ TEST(Form_Load, WithoutPreferencesEverySettingIsItsDefault) {
   ShellProgramFolder folder;
   FakePlatform platform(folder.Path() + "/");
   AppState s(platform);
-  Form_Load(s);
+  EXPECT_TRUE(Form_Load(s));
   EXPECT_EQ(s.ProgramFolder, folder.Path());  // one trailing separator dropped
   EXPECT_EQ(s.Form.Caption, "   Zentrel V1.62");
   EXPECT_EQ(Kept_Settings(s), "1;1;1;0;1;1;0;1;0;1;0;.htm;2;\"#=<>^()[]{}/.,;:+-_*&!?@%;;");
@@ -48,6 +48,24 @@ TEST(Form_Load, WithoutPreferencesEverySettingIsItsDefault) {
   EXPECT_EQ(minMatches.List[98], " 99 Matches");
   EXPECT_EQ(minMatches.Text, " 1 Match");
   EXPECT_TRUE(platform.messages.empty());
+}
+
+// A standard dictionary of more words than its 16-bit count holds: the Overflow ends the two
+// steps that build the list from it, and the later steps still run.
+TEST(Form_Load, AnErrorEndsOnlyTheStepThatRaisedIt) {
+  ShellProgramFolder folder;
+  for (const char* name : {"Zentrel_Standard.txt", "zentrel_standard.txt"}) {
+    testing::WriteFile(folder.File(std::string("dictionary/") + name),
+                       testing::OversizedFilterDictionary());
+  }
+  testing::WriteFile(folder.File("Zentrel_Pref.txt"), "Keywords_Sorted: 0\r\n");
+  FakePlatform platform(folder.Path());
+  AppState s(platform);
+  EXPECT_FALSE(Form_Load(s));
+  EXPECT_EQ(platform.messages, std::vector<std::string>(2, "Run-time error '6': Overflow"));
+  EXPECT_EQ(s.KeywordsSortList, 0);
+  EXPECT_EQ(s.Form.KeyWords_MinKeyWordMatches_DropDown.List.size(), 99u);
+  EXPECT_EQ(s.LetterTable['z'], 1);
 }
 
 // Seven loads (one page twice) leave the five newest, the repeat listed again.

@@ -11,6 +11,9 @@ TEST(Codec, DetectsUtf8AndRejectsBrokenOrOverlongSequences) {
   EXPECT_FALSE(IsValidUtf8("\xED\xA0\x80"));     // surrogate
   EXPECT_FALSE(IsValidUtf8("\xE2\x82"));         // cut short at the end
   EXPECT_TRUE(IsValidUtf8("\xF0\x9F\x98\x80"));  // four bytes
+  // Bytes that are not UTF-8 inside UTF-8 text read as U+FFFD, the rest as it stands.
+  EXPECT_EQ(ToUtf8("\xE9t\xC3\xA9\xE2\x82", Codec::Utf8),
+            "\xEF\xBF\xBDt\xC3\xA9\xEF\xBF\xBD\xEF\xBF\xBD");
 }
 
 TEST(Codec, EveryWindows1252ByteRoundTrips) {

@@ -245,11 +245,15 @@ TEST(ReadWholeFile, ClearMessagesForMissingFilesAndFolders) {
 
 TEST(ReadListItems, FollowsCommaDelimitedInput) {
   using V = std::vector<std::string>;
-  EXPECT_EQ(ReadListItems("a, b\r\n  c d \nx"), (V{"a", "b", "c d", "x"}));
-  EXPECT_EQ(ReadListItems("\"quoted, with comma\" rest,next\r\n"),
-            (V{"quoted, with comma", "next"}));
-  EXPECT_EQ(ReadListItems("FileLoaded:C:\\a,b.html\r\n"), (V{"FileLoaded:C:\\a", "b.html"}));
-  EXPECT_EQ(ReadListItems(""), V{});
+  auto items = [](std::string_view content) {
+    V all;
+    ReadListItems(content, [&all](std::string_view item) { all.emplace_back(item); });
+    return all;
+  };
+  EXPECT_EQ(items("a, b\r\n  c d \nx"), (V{"a", "b", "c d", "x"}));
+  EXPECT_EQ(items("\"quoted, with comma\" rest,next\r\n"), (V{"quoted, with comma", "next"}));
+  EXPECT_EQ(items("FileLoaded:C:\\a,b.html\r\n"), (V{"FileLoaded:C:\\a", "b.html"}));
+  EXPECT_EQ(items(""), V{});
 }
 
 }  // namespace zentrel::file_io

@@ -6,8 +6,10 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <sstream>
 
+#include "base/codec.h"
 #include "base/file_io.h"
 #include "test_files.h"
 
@@ -36,6 +38,58 @@ const char* kSanePage =
     "<html>\r\n<head>\r\n<title>Red Shoes</title>\r\n"
     "<meta name=\"keywords\" content=\"shoes, red shoes\">\r\n</head>\r\n"
     "<body>\r\nRed shoes and more red shoes for walking.\r\n</body>\r\n</html>\r\n";
+
+// True when text is exactly one JSON value of the kinds analyse writes: objects, arrays,
+// strings and null.
+bool IsJson(std::string_view text) {
+  auto eat = [&text](char c) {
+    const bool hit = !text.empty() && text.front() == c;
+    if (hit)
+      text.remove_prefix(1);
+    return hit;
+  };
+  auto string = [&] {
+    if (!eat('"'))
+      return false;
+    while (!text.empty() && text.front() != '"') {
+      if (static_cast<unsigned char>(text.front()) < 0x20)
+        return false;
+      if (eat('\\')) {
+        const size_t length = text.substr(0, 1) == "u" ? 5 : 1;
+        if (text.size() < length ||
+            std::string_view("\"\\/bfnrtu").find(text.front()) == std::string_view::npos)
+          return false;
+        text.remove_prefix(length);
+      } else {
+        text.remove_prefix(1);
+      }
+    }
+    return eat('"');
+  };
+  std::function<bool()> value = [&] {
+    if (text.substr(0, 4) == "null") {
+      text.remove_prefix(4);
+      return true;
+    }
+    if (eat('[')) {
+      if (eat(']'))
+        return true;
+      do {
+        if (!value())
+          return false;
+      } while (eat(','));
+      return eat(']');
+    }
+    if (!eat('{'))
+      return string();
+    do {
+      if (!string() || !eat(':') || !value())
+        return false;
+    } while (eat(','));
+    return eat('}');
+  };
+  return value() && text.empty();
+}
 
 }  // namespace
 
@@ -110,6 +164,42 @@ TEST(Cli, AnalyseWritesOneJsonLinePerPageAndReportsRunTimeErrors) {
   for (const char* part :
        {"\"error\":null", "\"title\":\"Red Shoes\"", "walking", "\"meta_fields\":[\"Red Shoes\","})
     EXPECT_NE(r.out.find(part, second), std::string::npos) << part;
+}
+
+// A Windows-1252 file name, Windows-1252 keywords in a UTF-8 page and a control character in
+// the title: the line is still valid UTF-8 and valid JSON.
+TEST(Cli, AnalyseWritesValidJsonWhateverTheBytes) {
+  TempFolder dir;
+  const std::string page = dir.File("caf\xE9.html");
+  WriteFile(page,
+            "<html><head><title>Caf\xC3\xA9\x01</title></head><body>caf\xC3\xA9"
+            "</body></html>");
+  Result r = RunCli({"analyse", "--keywords", "caf\xE9", page});
+  ASSERT_EQ(r.status, 0) << r.err;
+  ASSERT_EQ(r.out.find('\n'), r.out.size() - 1);
+  const std::string line = r.out.substr(0, r.out.size() - 1);
+  EXPECT_TRUE(codec::IsValidUtf8(line));
+  EXPECT_TRUE(IsJson(line)) << line;
+  EXPECT_EQ(line.find("{\"page\":\"" + dir.File("caf\xC3\xA9.html") + "\""), 0u);
+}
+
+// A filter dictionary of more words than its 16-bit count holds, as an option or from the
+// preferences file: the Overflow is reported once, and no page is read.
+TEST(Cli, ARunTimeErrorWhileStartingUpEndsTheRunWithStatusOne) {
+  TempFolder dir;
+  WriteFile(dir.File("big.txt"), testing::OversizedFilterDictionary());
+  WriteFile(dir.File("prefs.txt"), "DefaultWordFilterDictionary:" + dir.File("big.txt") + "\r\n");
+  WriteFile(dir.File("page.html"), kSanePage);
+  const std::string page = dir.File("page.html");
+  for (const auto& args :
+       {std::vector<std::string>{"report", "--dictionary", dir.File("big.txt"), page, page},
+        {"rebuild", "--prefs", dir.File("prefs.txt"), page, "-o", dir.File("out.html")}}) {
+    Result r = RunCli(args);
+    EXPECT_EQ(r.status, 1) << args[0];
+    EXPECT_EQ(r.err, "zentrel-cli: Run-time error '6': Overflow\n");
+    EXPECT_EQ(r.out, "");
+  }
+  EXPECT_FALSE(fs::exists(dir.File("out.html")));
 }
 
 TEST(Cli, RebuildWritesTheFieldsAndRefusesSectionErrorsWithoutForce) {

@@ -30,6 +30,17 @@ void WriteFile(const std::filesystem::path& path, const std::string& bytes) {
   out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }
 
+std::string OversizedFilterDictionary() {
+  std::string words;
+  for (int i = 0; i < 32767; ++i) {
+    words += 'w';
+    for (int n = i; n > 0; n /= 26)
+      words += static_cast<char>('a' + n % 26);
+    words += "\r\n";
+  }
+  return words;
+}
+
 TempFolder::TempFolder() {
   std::string pattern = (std::filesystem::temp_directory_path() / "zentrel-test-XXXXXX").string();
   if (!mkdtemp(pattern.data()))

@@ -12,6 +12,10 @@ std::string TestDataPath(const std::string& name);
 std::string ReadFile(const std::filesystem::path& path);
 void WriteFile(const std::filesystem::path& path, const std::string& bytes);
 
+// A filter dictionary of more words (32767, one a line) than the filter list's 16-bit count
+// holds; the words are "w" followed by letters: "w", "wb", "wc", ...
+std::string OversizedFilterDictionary();
+
 // A fresh folder removed with everything in it when the object goes.
 class TempFolder {
  public:

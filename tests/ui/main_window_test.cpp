@@ -306,6 +306,24 @@ TEST_F(MainWindowTest, ARunTimeErrorLeavesTheWindowUsable) {
   EXPECT_EQ(W<QLineEdit>("MetaTag_TextBox_0")->text(), QStringLiteral("Next page"));
 }
 
+// The preferences file names a filter dictionary of more words than its 16-bit count holds:
+// start-up shows the Overflow and the window comes up usable, filtering with the words read
+// before the error.
+TEST_F(MainWindowTest, AStartUpErrorIsShownAndTheWindowComesUpUsable) {
+  const std::string big = Save("big.txt", zentrel::testing::OversizedFilterDictionary());
+  Save("Zentrel_Pref.txt", "DefaultWordFilterDictionary:" + big + "\r\n");
+  window = std::make_unique<MainWindow>(platform);
+  window->show();
+  EXPECT_EQ(platform.messages, std::vector<std::string>{"Run-time error '6': Overflow"});
+  EXPECT_TRUE(window->isVisible());
+
+  Load(Save("page.html", Page("Title", " wb hello wc")));
+  EXPECT_EQ(platform.messages.size(), 1u);
+  const QString counted = Text("ScanKeyWords_DocumentWordCount_TextBox");
+  EXPECT_TRUE(counted.contains(QStringLiteral("hello")));
+  EXPECT_FALSE(counted.contains(QStringLiteral("wb"))) << "read before the error, so filtered";
+}
+
 TEST_F(MainWindowTest, TheRecentMenuListsTheLastLoadsNewestFirst) {
   Load(Save("a.htm", Page("Page A", "alpha")));
   Load(Save("b.htm", Page("Page B", "beta")));
