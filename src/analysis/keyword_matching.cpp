@@ -39,15 +39,10 @@ std::vector<int64_t> Occurrences_In_Text(AppState& s, std::string_view text) {
     fold[c] =
         static_cast<unsigned char>(s.KeywordsForceSameCase != 0 ? text::UpperAscii(byte) : byte);
   }
-  Pattern_Automaton automaton;
-  std::vector<int32_t> ends;
-  for (int16_t i = 0; i < s.KeywordCount; ++i) {
-    int32_t node = Pattern_Automaton::kRoot;
-    for (const char c : At(s.KeywordList, i))
-      node = automaton.Extend(node, fold[static_cast<unsigned char>(c)]);
-    ends.push_back(node);
-  }
-  automaton.Build(static_cast<uint32_t>(fold.size()));
+  std::vector<std::string> keywords;
+  for (int16_t i = 0; i < s.KeywordCount; ++i)
+    keywords.push_back(UnderCaseRule(s, At(s.KeywordList, i)));
+  Pattern_Automaton automaton(keywords, static_cast<uint32_t>(fold.size()));
   int32_t state = Pattern_Automaton::kRoot;
   for (size_t p = 0; p < text.size(); ++p) {
     if ((p & kBytesBetweenEvents) == kBytesBetweenEvents)
@@ -55,10 +50,10 @@ std::vector<int64_t> Occurrences_In_Text(AppState& s, std::string_view text) {
     state = automaton.Next(state, fold[static_cast<unsigned char>(text[p])]);
     automaton.Count(state);
   }
-  const std::vector<int64_t> totals = automaton.Occurrences();
-  for (const int32_t end : ends) {
-    found.push_back(end == Pattern_Automaton::kRoot ? static_cast<int64_t>(text.size()) + 1
-                                                    : totals[static_cast<size_t>(end)]);
+  const std::vector<int64_t>& totals = automaton.Occurrences();
+  for (size_t i = 0; i < keywords.size(); ++i) {
+    found.push_back(keywords[i].empty() ? static_cast<int64_t>(text.size()) + 1
+                                        : totals[static_cast<size_t>(automaton.End(i))]);
   }
   return found;
 }
@@ -204,15 +199,12 @@ void ScanWords(AppState& s) {
     CheckIndex(count - 1, 0, static_cast<int64_t>(s.DocumentWords.size()) - 1);
 
   Keyword_Word_Ids ids(s.KeywordsForceSameCase != 0);
-  Pattern_Automaton automaton;
-  std::vector<int32_t> ends;
-  for (int16_t i = 0; i < s.KeywordCount; ++i) {
-    int32_t node = Pattern_Automaton::kRoot;
-    for (const std::string& word : s.KeywordWords[static_cast<size_t>(i)])
-      node = automaton.Extend(node, ids.Add(word));
-    ends.push_back(node);
+  std::vector<std::vector<uint32_t>> phrases(static_cast<size_t>(s.KeywordCount));
+  for (size_t i = 0; i < phrases.size(); ++i) {
+    for (const std::string& word : s.KeywordWords[i])
+      phrases[i].push_back(ids.Add(word));
   }
-  automaton.Build(ids.Count());
+  Pattern_Automaton automaton(phrases, ids.Count());
   int32_t state = Pattern_Automaton::kRoot;
   for (int32_t k = 0; k < count; ++k) {
     if ((k & kWordsBetweenEvents) == kWordsBetweenEvents)
@@ -221,14 +213,15 @@ void ScanWords(AppState& s) {
     state = id < 0 ? Pattern_Automaton::kRoot : automaton.Next(state, static_cast<uint32_t>(id));
     automaton.Count(state);
   }
-  const std::vector<int64_t> totals = automaton.Occurrences();
+  const std::vector<int64_t>& totals = automaton.Occurrences();
 
   for (int16_t i = 0; i < s.KeywordCount; ++i) {
     const std::vector<std::string>& words = s.KeywordWords[static_cast<size_t>(i)];
     const bool emptyWord = words.size() == 1 && words[0].empty();
     int16_t& matches = At(s.KeywordBodyMatches, i);
-    const int64_t total =
-        int64_t{matches} + totals[static_cast<size_t>(ends[static_cast<size_t>(i)])] + emptyWord;
+    const int64_t total = int64_t{matches} +
+                          totals[static_cast<size_t>(automaton.End(static_cast<size_t>(i)))] +
+                          emptyWord;
     if (total > INT16_MAX) {
       matches = INT16_MAX;
       RaiseOverflow();

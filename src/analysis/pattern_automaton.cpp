@@ -1,94 +1,61 @@
 #include "analysis/pattern_automaton.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace zentrel::analysis {
 
-namespace {
+void Pattern_Automaton::Number_Breadth_First(const std::vector<int32_t>& parent,
+                                             const std::vector<uint32_t>& symbol) {
+  // Sorted by depth, the nodes of one depth keeping the order they were made in: the children
+  // of one node then follow one another in increasing symbol order, and the children of the
+  // nodes before it come before them.
+  const size_t nodes = parent.size();
+  std::vector<int32_t> number(nodes, 0);  // first the depth, then the new number
+  int32_t deepest = 0;
+  for (size_t n = 1; n < nodes; ++n) {
+    number[n] = number[static_cast<size_t>(parent[n])] + 1;
+    deepest = std::max(deepest, number[n]);
+  }
+  std::vector<int32_t> next(static_cast<size_t>(deepest) + 2, 0);
+  for (const int32_t depth : number)
+    ++next[static_cast<size_t>(depth) + 1];
+  std::partial_sum(next.begin(), next.end(), next.begin());
+  for (int32_t& n : number)
+    n = next[static_cast<size_t>(n)]++;
 
-constexpr uint64_t kNoEdge = ~uint64_t{0};
-
-uint64_t Edge_Key(int32_t node, uint32_t symbol) {
-  return (static_cast<uint64_t>(static_cast<uint32_t>(node)) << 32) | symbol;
+  symbols_.assign(nodes, 0);
+  firstChild_.assign(nodes + 1, 0);
+  firstChild_[0] = 1;  // the root's children come right after it
+  for (size_t n = 1; n < nodes; ++n) {
+    symbols_[static_cast<size_t>(number[n])] = symbol[n];
+    ++firstChild_[static_cast<size_t>(number[static_cast<size_t>(parent[n])]) + 1];
+  }
+  std::partial_sum(firstChild_.begin(), firstChild_.end(), firstChild_.begin());
+  for (int32_t& end : ends_)
+    end = number[static_cast<size_t>(end)];
 }
 
-size_t Slot_Of(uint64_t key, size_t mask) {
-  return static_cast<size_t>((key * 0x9E3779B97F4A7C15ULL) >> 32) & mask;
+void Pattern_Automaton::Link_Suffixes(uint32_t alphabet) {
+  rootNext_.assign(alphabet, kRoot);
+  for (int32_t c = firstChild_[kRoot]; c < firstChild_[kRoot + 1]; ++c)
+    rootNext_[symbols_[static_cast<size_t>(c)]] = c;
+  // In breadth-first order every suffix link is set before the link of any longer node,
+  // which is all that following the links needs.
+  const size_t nodes = symbols_.size();
+  suffix_.assign(nodes, kRoot);
+  for (size_t node = 1; node < nodes; ++node) {
+    for (int32_t c = firstChild_[node]; c < firstChild_[node + 1]; ++c)
+      suffix_[static_cast<size_t>(c)] = Next(suffix_[node], symbols_[static_cast<size_t>(c)]);
+  }
+  visits_.assign(nodes, 0);
 }
-
-}  // namespace
-
-Pattern_Automaton::Pattern_Automaton()
-    : suffix_{kRoot}, firstChild_{-1}, nextSibling_{-1}, symbol_{0} {}
 
 int32_t Pattern_Automaton::Child(int32_t node, uint32_t symbol) const {
-  if (edgeKeys_.empty())
-    return -1;
-  const uint64_t key = Edge_Key(node, symbol);
-  const size_t mask = edgeKeys_.size() - 1;
-  for (size_t i = Slot_Of(key, mask);; i = (i + 1) & mask) {
-    if (edgeKeys_[i] == key)
-      return edgeChildren_[i];
-    if (edgeKeys_[i] == kNoEdge)
-      return -1;
-  }
-}
-
-void Pattern_Automaton::Insert_Edge(uint64_t key, int32_t child) {
-  const size_t mask = edgeKeys_.size() - 1;
-  size_t i = Slot_Of(key, mask);
-  while (edgeKeys_[i] != kNoEdge)
-    i = (i + 1) & mask;
-  edgeKeys_[i] = key;
-  edgeChildren_[i] = child;
-}
-
-int32_t Pattern_Automaton::Extend(int32_t node, uint32_t symbol) {
-  const int32_t known = Child(node, symbol);
-  if (known >= 0)
-    return known;
-  const auto child = static_cast<int32_t>(suffix_.size());
-  suffix_.push_back(kRoot);
-  symbol_.push_back(symbol);
-  firstChild_.push_back(-1);
-  nextSibling_.push_back(firstChild_[static_cast<size_t>(node)]);
-  firstChild_[static_cast<size_t>(node)] = child;
-
-  if ((edgeCount_ + 1) * 2 > edgeKeys_.size()) {
-    // Kept at most half full, so a probe ends soon at an empty slot.
-    std::vector<uint64_t> keys(std::max<size_t>(64, edgeKeys_.size() * 2), kNoEdge);
-    std::vector<int32_t> children(keys.size(), -1);
-    keys.swap(edgeKeys_);
-    children.swap(edgeChildren_);
-    for (size_t i = 0; i < keys.size(); ++i) {
-      if (keys[i] != kNoEdge)
-        Insert_Edge(keys[i], children[i]);
-    }
-  }
-  Insert_Edge(Edge_Key(node, symbol), child);
-  ++edgeCount_;
-  return child;
-}
-
-void Pattern_Automaton::Build(uint32_t alphabet) {
-  rootNext_.assign(alphabet, kRoot);
-  for (int32_t c = firstChild_[kRoot]; c >= 0; c = nextSibling_[static_cast<size_t>(c)])
-    rootNext_[symbol_[static_cast<size_t>(c)]] = c;
-  // Breadth first, so every suffix link points to a node whose own link is already set.
-  order_.assign(1, kRoot);
-  order_.reserve(suffix_.size());
-  for (size_t k = 0; k < order_.size(); ++k) {
-    const int32_t node = order_[k];
-    for (int32_t c = firstChild_[static_cast<size_t>(node)]; c >= 0;
-         c = nextSibling_[static_cast<size_t>(c)]) {
-      if (node != kRoot) {
-        suffix_[static_cast<size_t>(c)] =
-            Next(suffix_[static_cast<size_t>(node)], symbol_[static_cast<size_t>(c)]);
-      }
-      order_.push_back(c);
-    }
-  }
-  visits_.assign(suffix_.size(), 0);
+  const auto first = symbols_.begin() + firstChild_[static_cast<size_t>(node)];
+  const auto last = symbols_.begin() + firstChild_[static_cast<size_t>(node) + 1];
+  const auto it = std::lower_bound(first, last, symbol);
+  return it != last && *it == symbol ? static_cast<int32_t>(it - symbols_.begin()) : -1;
 }
 
 int32_t Pattern_Automaton::Next(int32_t state, uint32_t symbol) const {
@@ -103,15 +70,12 @@ int32_t Pattern_Automaton::Next(int32_t state, uint32_t symbol) const {
   return rootNext_[symbol];
 }
 
-std::vector<int64_t> Pattern_Automaton::Occurrences() const {
-  // A position ending in a node also ends in every pattern along its suffix links: add each
-  // node's count to its suffix once, longest nodes first.
-  std::vector<int64_t> total = visits_;
-  for (size_t k = order_.size(); k-- > 1;) {
-    const auto node = static_cast<size_t>(order_[k]);
-    total[static_cast<size_t>(suffix_[node])] += total[node];
-  }
-  return total;
+const std::vector<int64_t>& Pattern_Automaton::Occurrences() {
+  // A position ending in a node also ends in every pattern prefix along its suffix links:
+  // add each node's count to its suffix once, longest nodes first.
+  for (size_t node = visits_.size(); node-- > 1;)
+    visits_[static_cast<size_t>(suffix_[node])] += visits_[node];
+  return visits_;
 }
 
 }  // namespace zentrel::analysis
