@@ -37,16 +37,25 @@ void Pattern_Automaton::Number_Breadth_First(const std::vector<int32_t>& parent,
 }
 
 void Pattern_Automaton::Link_Suffixes(uint32_t alphabet) {
-  rootNext_.assign(alphabet, kRoot);
-  for (int32_t c = firstChild_[kRoot]; c < firstChild_[kRoot + 1]; ++c)
-    rootNext_[symbols_[static_cast<size_t>(c)]] = c;
-  // In breadth-first order every suffix link is set before the link of any longer node,
-  // which is all that following the links needs.
   const size_t nodes = symbols_.size();
+  alphabet_ = alphabet;
+  denseNodes_ = std::clamp<size_t>(kDenseBudget / std::max<uint32_t>(alphabet, 1), 1, nodes);
+  dense_.assign(denseNodes_ * alphabet, kRoot);
   suffix_.assign(nodes, kRoot);
-  for (size_t node = 1; node < nodes; ++node) {
-    for (int32_t c = firstChild_[node]; c < firstChild_[node + 1]; ++c)
-      suffix_[static_cast<size_t>(c)] = Next(suffix_[node], symbols_[static_cast<size_t>(c)]);
+  // In breadth-first order every suffix link and dense row is set before those of any longer
+  // node, which is all that following the links needs.
+  for (size_t node = 0; node < nodes; ++node) {
+    if (node < denseNodes_ && node != kRoot) {
+      std::copy_n(dense_.begin() + suffix_[node] * alphabet, alphabet,
+                  dense_.begin() + static_cast<ptrdiff_t>(node * alphabet));
+    }
+    for (int32_t c = firstChild_[node]; c < firstChild_[node + 1]; ++c) {
+      const uint32_t symbol = symbols_[static_cast<size_t>(c)];
+      if (node != kRoot)
+        suffix_[static_cast<size_t>(c)] = Next(suffix_[node], symbol);
+      if (node < denseNodes_)
+        dense_[node * alphabet + symbol] = c;
+    }
   }
   visits_.assign(nodes, 0);
 }
@@ -56,18 +65,6 @@ int32_t Pattern_Automaton::Child(int32_t node, uint32_t symbol) const {
   const auto last = symbols_.begin() + firstChild_[static_cast<size_t>(node) + 1];
   const auto it = std::lower_bound(first, last, symbol);
   return it != last && *it == symbol ? static_cast<int32_t>(it - symbols_.begin()) : -1;
-}
-
-int32_t Pattern_Automaton::Next(int32_t state, uint32_t symbol) const {
-  // Each step down the suffix links shortens the match, and each symbol lengthens it by at
-  // most one, so a whole text costs linear time.
-  while (state != kRoot) {
-    const int32_t child = Child(state, symbol);
-    if (child >= 0)
-      return child;
-    state = suffix_[static_cast<size_t>(state)];
-  }
-  return rootNext_[symbol];
 }
 
 const std::vector<int64_t>& Pattern_Automaton::Occurrences() {

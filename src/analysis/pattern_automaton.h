@@ -27,7 +27,17 @@ class Pattern_Automaton {
   // The state in which pattern i has just been read; equal patterns share it.
   int32_t End(size_t i) const { return ends_[i]; }
   // The state after reading `symbol` in `state`: the longest pattern prefix the text ends in.
-  int32_t Next(int32_t state, uint32_t symbol) const;
+  // Each step down the suffix links shortens the match, and each symbol lengthens it by at
+  // most one, so a whole text costs linear time.
+  int32_t Next(int32_t state, uint32_t symbol) const {
+    while (static_cast<size_t>(state) >= denseNodes_) {
+      const int32_t child = Child(state, symbol);
+      if (child >= 0)
+        return child;
+      state = suffix_[static_cast<size_t>(state)];
+    }
+    return dense_[static_cast<size_t>(state) * alphabet_ + symbol];
+  }
   // Records that the text has one more position ending in `state`.
   void Count(int32_t state) { ++visits_[static_cast<size_t>(state)]; }
   // Per state, how many counted positions end with that state's pattern prefix; once, after
@@ -86,8 +96,13 @@ class Pattern_Automaton {
   // the nodes firstChild_[node] .. firstChild_[node + 1] - 1, in increasing symbol order.
   std::vector<int32_t> firstChild_;
   std::vector<uint32_t> symbols_;  // the symbol on the edge into each node
-  std::vector<int32_t> rootNext_;  // the root's transitions, dense: most text stays near it
-  std::vector<int32_t> suffix_;    // the longest proper suffix that is also a node
+  // Every transition of the shortest nodes, one row of the alphabet each, so that text
+  // that stays near the root needs one lookup a symbol; the root at least.
+  static constexpr size_t kDenseBudget = 1 << 16;
+  size_t denseNodes_ = 0;
+  uint32_t alphabet_ = 0;
+  std::vector<int32_t> dense_;
+  std::vector<int32_t> suffix_;  // the longest proper suffix that is also a node
   std::vector<int64_t> visits_;
 };
 
