@@ -14,13 +14,15 @@ std::string Page_With(const std::string& title, const std::string& keywords,
          "\"></head><body>" + body + "</body></html>\r\n";
 }
 
-// A title of one letter repeated, and keywords of 1001 characters that each differ from such
-// a run in one place, so that a search compares almost a whole keyword at every position.
+// A title of one letter repeated, and keywords of 1001 characters that leave such a run only
+// after 900 of them or more, then each in its own way: a search compares almost a whole
+// keyword at every position, and the keywords share little more than the run.
 std::string Near_Miss_Page(size_t titleBytes, int keywords) {
   std::string list;
   for (int i = 0; i < keywords; ++i) {
-    const auto before = static_cast<size_t>(1000 - i);
-    list += (i ? ", " : "") + std::string(before, 'a') + "b" + std::string(1000 - before, 'a');
+    const auto tail = static_cast<size_t>(1 + i / 10);
+    list += (i ? ", " : "") + std::string(1000 - tail, 'a') + "b" +
+            static_cast<char>('b' + i % 10) + std::string(tail - 1, 'c');
   }
   return Page_With(std::string(titleBytes, 'a'), list, "near miss page");
 }
