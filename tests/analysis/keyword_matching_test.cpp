@@ -23,16 +23,6 @@ struct Matching : testing::Analysis {
   }
 };
 
-TEST(Tally_Current_TITLE_Keyword_Matches, OverlappingAndInsideWords) {
-  Matching m({"cheap", "aa", "art", "none"}, {});
-  m.s.TitleText = "Cheap Cheap Shoes aaa Smart Art";
-  EXPECT_EQ(Tally_Current_TITLE_Keyword_Matches(m.s), 3);
-  EXPECT_EQ(Counts(m.s.KeywordTitleMatches.begin(), m.s.KeywordTitleMatches.begin() + 4),
-            (Counts{2, 2, 2, 0}));
-  m.s.KeywordsForceSameCase = 0;
-  EXPECT_EQ(Tally_Current_TITLE_Keyword_Matches(m.s), 2);
-}
-
 TEST(Tally_Current_Documents_Keyword_Matches, TextScanCountsEverywhereInTheSource) {
   Matching m({"shoe", "keywords", "ana"}, {"Shoes", "and", "SHOESTRING", "banana"});
   m.s.KeywordsMatchScanType = 0;
@@ -47,22 +37,14 @@ TEST(Tally_Current_Documents_Keyword_Matches, TextScanCountsEverywhereInTheSourc
   EXPECT_EQ(m.Body(), (Counts{4, 2, 4}));
 }
 
-TEST(Tally_Current_Documents_Keyword_Matches, WordScanMatchesWholeWordsAndPhrases) {
-  Matching m({"shoe", "red  shoes", "Shoes", "blue cat", "\"\""},
-             {"red", "Shoes", "shoestring", "red", "shoes", "red", "blue"});
-  EXPECT_EQ(m.Body(), (Counts{0, 2, 2, 0, 1}));
-
-  // A phrase whose first word is the document's last word gives no match.
+// A phrase whose first word is the document's last word gives no match; a raw body view
+// stays as decoded.
+TEST(Tally_Current_Documents_Keyword_Matches, WordScanPhraseAtTheEndAndRawBodyView) {
   Matching last({"blue cat", "cat"}, {"cat", "blue"});
-  last.s.KeywordsForceSameCase = 0;
-  last.s.ViewBodyShowRaw = 1;  // the body view stays as decoded
+  last.s.ViewBodyShowRaw = 1;
   last.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox = "as decoded";
   EXPECT_EQ(last.Body(), (Counts{0, 1}));
   EXPECT_EQ(last.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox, "as decoded");
-
-  // Keywords sharing a first word are each counted, whatever the case of the page's words.
-  Matching shared({"red", "red shoes", "Red hat", "red"}, {"RED", "shoes", "red", "hat", "Red"});
-  EXPECT_EQ(shared.Body(), (Counts{3, 1, 1, 3}));
 }
 
 // The tallies as their steps read: repeated searches from one past the last hit, and a
