@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Sourced by the whole-process benchmark scripts: installs hyperfine, GNU time and jq when
 # they are missing.
 need=()
