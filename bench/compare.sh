@@ -11,14 +11,8 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 runs=${1:-10}
 
-need=()
-command -v hyperfine >/dev/null || need+=(hyperfine)
-[ -x /usr/bin/time ] || need+=(time)
-command -v jq >/dev/null || need+=(jq)
-if [ ${#need[@]} -gt 0 ]; then
-  sudo=""; [ "$(id -u)" -ne 0 ] && sudo=sudo
-  $sudo apt-get update -qq && $sudo apt-get install -y -qq "${need[@]}"
-fi
+# shellcheck source=bench/bench_tools.sh
+source bench/bench_tools.sh
 
 cmake --preset dev >/dev/null
 cmake --build --preset dev --target zentrel-cli zentrel-baseline zentrel-bench-pages \

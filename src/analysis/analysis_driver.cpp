@@ -67,7 +67,7 @@ void ReportDoubles(AppState& s) {
     return;
   Blank(s);
   Report_Center(s, "Keyword-Error-Repeated String");
-  Report_Center(s, s.KeywordDoublesText);
+  Report_Center(s, std::move(s.KeywordDoublesText));  // the report keeps the one copy
   if (s.KeywordsRemoveDoubles == 1) {
     Report_Center(s, "**** Keyword-Doubles-Removed *****");
     Remove_Keyword_Doubles(s);

@@ -12,6 +12,8 @@ namespace zentrel::analysis {
 
 namespace {
 
+constexpr size_t kReportRoom = 1 << 16;  // for the report lines around the duplicates text
+
 void ResizeKeywordArrays(AppState& s) {
   const size_t size = static_cast<size_t>(s.KeywordCapacity) + 1;
   s.KeywordList.resize(size);
@@ -86,21 +88,32 @@ int16_t Check_Keywords_For_Doubles(AppState& s) {
   s.KeywordDoublesText.clear();
   if (s.KeywordCount < 2)
     return 0;
-  bool found = false;
   // Blanked copies stay in place and compare equal to each other, so a keyword listed three
-  // times also reports one empty line; the text must keep that.
+  // times also reports one empty line; the text must keep that. Each pair adds keyword i
+  // once, so the text is counted first and written in one block.
+  std::vector<int32_t> pairs(static_cast<size_t>(s.KeywordCount), 0);
+  size_t length = 0;
   for (int32_t i = 0; i <= s.KeywordCount - 2; ++i) {
     for (int32_t j = i + 1; j <= s.KeywordCount - 1; ++j) {
       if (At(s.KeywordList, j) != At(s.KeywordList, i))
         continue;
-      s.KeywordDoublesText += s.KeywordList[static_cast<size_t>(i)];
-      s.KeywordDoublesText += text::kCrLf;
-      found = true;
+      ++pairs[static_cast<size_t>(i)];
+      length += s.KeywordList[static_cast<size_t>(i)].size() + text::kCrLf.size();
       if (s.KeywordsRemoveDoubles == 1)
         s.KeywordList[static_cast<size_t>(j)].clear();
     }
   }
-  return found ? 1 : 0;
+  // A keyword listed a thousand times names itself half a million times, nearly the whole
+  // report: the report takes this text over instead of copying it, and the room it needs
+  // for its other lines costs no memory until it is written.
+  s.KeywordDoublesText.reserve(length + length / 4 + kReportRoom);
+  for (size_t i = 0; i < pairs.size(); ++i) {
+    for (int32_t n = 0; n < pairs[i]; ++n) {
+      s.KeywordDoublesText += s.KeywordList[i];
+      s.KeywordDoublesText += text::kCrLf;
+    }
+  }
+  return length > 0 ? 1 : 0;
 }
 
 void Remove_Keyword_Doubles(AppState& s) {

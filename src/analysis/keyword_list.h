@@ -31,6 +31,8 @@ struct KeywordListFields {
   int16_t KeywordWordsSize = 1;
   int16_t KeywordCount = 0;
   int16_t KeywordCapacity = 0;
+  // The duplicates found by the last check, each with CR LF. The analysis hands the text over
+  // to its report line, so after an analysis it is empty.
   std::string KeywordDoublesText;
   std::string CurrentKeyword;
   int16_t KeywordSplitCount = 0;  // parts of the last keyword split (page's or user's)

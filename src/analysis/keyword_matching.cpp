@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "analysis/pattern_automaton.h"
 #include "app/app_state.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
@@ -21,19 +22,40 @@ std::string UnderCaseRule(const AppState& s, std::string_view t) {
   return s.KeywordsForceSameCase != 0 ? text::UCase(t) : std::string(t);
 }
 
-// Occurrences of needle in haystack, each search starting one character after the last hit,
-// so overlapping occurrences all count. An empty needle is found at every position up to one
-// past the end, as the position search reports it.
-int16_t CountOverlapping(std::string_view haystack, std::string_view needle, int16_t start) {
-  int16_t n = start;
-  if (needle.empty())
-    return ToInt16(int64_t{n} + static_cast<int64_t>(haystack.size()) + 1);
-  size_t p = haystack.find(needle);
-  while (p != std::string_view::npos) {
-    n = ToInt16(int32_t{n} + 1);
-    p = haystack.find(needle, p + 1);
+constexpr size_t kBytesBetweenEvents = 0xFFFF;  // the window repaints every 64 KiB searched
+constexpr int32_t kWordsBetweenEvents = 4095;
+
+// How often each keyword, under the case rule, occurs in the text when every search starts
+// one character after the start of the previous hit: overlapping occurrences and occurrences
+// inside longer words all count. An empty keyword is found at every position up to one past
+// the end. One automaton pass serves all keywords.
+std::vector<int64_t> Occurrences_In_Text(AppState& s, std::string_view text) {
+  std::vector<int64_t> found;
+  if (s.KeywordCount <= 0)
+    return found;
+  std::array<unsigned char, 256> fold{};
+  for (size_t c = 0; c < fold.size(); ++c) {
+    const auto byte = static_cast<char>(c);
+    fold[c] =
+        static_cast<unsigned char>(s.KeywordsForceSameCase != 0 ? text::UpperAscii(byte) : byte);
   }
-  return n;
+  std::vector<std::string> keywords;
+  for (int16_t i = 0; i < s.KeywordCount; ++i)
+    keywords.push_back(UnderCaseRule(s, At(s.KeywordList, i)));
+  Pattern_Automaton automaton(keywords, static_cast<uint32_t>(fold.size()));
+  int32_t state = Pattern_Automaton::kRoot;
+  for (size_t p = 0; p < text.size(); ++p) {
+    if ((p & kBytesBetweenEvents) == kBytesBetweenEvents)
+      s.platform->DoEvents();
+    state = automaton.Next(state, fold[static_cast<unsigned char>(text[p])]);
+    automaton.Count(state);
+  }
+  const std::vector<int64_t>& totals = automaton.Occurrences();
+  for (size_t i = 0; i < keywords.size(); ++i) {
+    found.push_back(keywords[i].empty() ? static_cast<int64_t>(text.size()) + 1
+                                        : totals[static_cast<size_t>(automaton.End(i))]);
+  }
+  return found;
 }
 
 // The keyword cut into its words at runs of spaces; an empty keyword is one empty word.
@@ -70,19 +92,12 @@ void PrepareKeywordWords(AppState& s) {
 }
 
 void ScanText(AppState& s) {
-  const std::string body = UnderCaseRule(s, s.DocumentText);
+  const std::vector<int64_t> found = Occurrences_In_Text(s, s.DocumentText);
   for (int16_t i = 0; i < s.KeywordCount; ++i) {
-    s.platform->DoEvents();  // each keyword is a search of the whole page
     s.CurrentKeyword = UnderCaseRule(s, At(s.KeywordList, i));
     int16_t& matches = At(s.KeywordBodyMatches, i);
-    matches = CountOverlapping(body, s.CurrentKeyword, matches);
+    matches = ToInt16(int64_t{matches} + found[static_cast<size_t>(i)]);
   }
-}
-
-// Word k of the document under the case rule's left side: the stored word, and the empty
-// slot for k = count.
-std::string_view Document_Word(const AppState& s, int32_t k, int32_t count) {
-  return k < count ? s.DocumentWords[static_cast<size_t>(k)] : std::string_view();
 }
 
 // The document word equals the keyword word, which the case rule has already upper-cased
@@ -99,44 +114,49 @@ bool Same_Word(std::string_view word, std::string_view keywordWord, bool upper) 
   return true;
 }
 
-// The keywords' first words (already under the case rule), each with the keywords that start
-// with it, found by the hash of a document word folded on the fly.
-class FirstWords {
+// The distinct words of the keywords (already under the case rule), numbered from 0; a
+// document word, folded on the fly, is looked up by its hash.
+class Keyword_Word_Ids {
  public:
-  FirstWords(const AppState& s, bool upper) : upper_(upper) {
-    for (int16_t i = 0; i < s.KeywordCount; ++i) {
-      const std::string& first = At(At(s.KeywordWords, i), 0);
-      const int32_t known = Group_Of(first);
-      if (known >= 0) {
-        groups_[static_cast<size_t>(known)].keywords.push_back(i);
-        continue;
-      }
-      groups_.push_back({first, {i}});
-      if (groups_.size() * 2 > slots_.size())
-        Rehash();
-      else
-        Place(groups_.size() - 1);
-    }
+  explicit Keyword_Word_Ids(bool upper) : upper_(upper), maybe_(kLengths) {}
+
+  // The id of a keyword word, given when the word is first seen. The word must outlive this.
+  uint32_t Add(std::string_view word) {
+    const int32_t known = Find_Known(word);
+    if (known >= 0)
+      return static_cast<uint32_t>(known);
+    words_.push_back(word);
+    maybe_[Row(word)][First(word)] = true;
+    if (words_.size() * 2 > slots_.size())
+      Rehash();
+    else
+      Place(words_.size() - 1);
+    return static_cast<uint32_t>(words_.size() - 1);
   }
 
-  // The keywords whose first word the document word is, or nullptr.
-  const std::vector<int16_t>* Find(std::string_view word) const {
-    const int32_t g = Group_Of(word);
-    return g < 0 ? nullptr : &groups_[static_cast<size_t>(g)].keywords;
+  // The id of a document word, or -1 when no keyword holds it. Most words are ruled out by
+  // their length and first character alone.
+  int32_t Find(std::string_view word) const {
+    return maybe_[Row(word)][First(word)] ? Find_Known(word) : -1;
   }
+
+  uint32_t Count() const { return static_cast<uint32_t>(words_.size()); }
 
  private:
-  struct Group {
-    std::string word;
-    std::vector<int16_t> keywords;
-  };
+  static constexpr size_t kLengths = 64;  // longer words share the last row
 
-  int32_t Group_Of(std::string_view word) const {
+  static size_t Row(std::string_view word) { return std::min(word.size(), kLengths - 1); }
+  unsigned char First(std::string_view word) const {
+    return word.empty() ? 0
+                        : static_cast<unsigned char>(upper_ ? text::UpperAscii(word[0]) : word[0]);
+  }
+
+  int32_t Find_Known(std::string_view word) const {
     if (slots_.empty())
       return -1;
     const size_t mask = slots_.size() - 1;
     for (size_t i = Hash(word) & mask; slots_[i] >= 0; i = (i + 1) & mask) {
-      if (Same_Word(word, groups_[static_cast<size_t>(slots_[i])].word, upper_))
+      if (Same_Word(word, words_[static_cast<size_t>(slots_[i])], upper_))
         return slots_[i];
     }
     return -1;
@@ -149,72 +169,59 @@ class FirstWords {
     return static_cast<size_t>(h ^ (h >> 32));
   }
 
-  void Place(size_t g) {
+  void Place(size_t id) {
     const size_t mask = slots_.size() - 1;
-    size_t i = Hash(groups_[g].word) & mask;
+    size_t i = Hash(words_[id]) & mask;
     while (slots_[i] >= 0)
       i = (i + 1) & mask;
-    slots_[i] = static_cast<int32_t>(g);
+    slots_[i] = static_cast<int32_t>(id);
   }
 
   void Rehash() {
     slots_.assign(std::max<size_t>(16, slots_.size() * 2), -1);
-    for (size_t g = 0; g < groups_.size(); ++g)
-      Place(g);
+    for (size_t id = 0; id < words_.size(); ++id)
+      Place(id);
   }
 
   bool upper_;
-  std::vector<Group> groups_;
+  std::vector<std::array<bool, 256>> maybe_;  // [length row][first character]
+  std::vector<std::string_view> words_;
   std::vector<int32_t> slots_;
 };
 
-// One pass over the words for all keywords at once: only a word that could be some keyword's
-// first word (same length and first character) is looked up. The counts are those of the
-// keyword-by-keyword scan.
+// One automaton pass over the word ids for all phrases: a phrase matches only where all of
+// its words follow one another inside the list. The slot one past the last word holds no
+// word, so only a keyword that is a single empty word matches there.
 void ScanWords(AppState& s) {
   PrepareKeywordWords(s);
   const int32_t count = s.DocumentWordCount;
-  const bool upper = s.KeywordsForceSameCase != 0;
   if (count > 0)
     CheckIndex(count - 1, 0, static_cast<int64_t>(s.DocumentWords.size()) - 1);
 
-  constexpr size_t kLengths = 64;  // longer words share the last row
-  std::vector<std::array<bool, 256>> maybeFirst(kLengths);
-  for (int16_t i = 0; i < s.KeywordCount; ++i) {
-    const std::string& first = At(At(s.KeywordWords, i), 0);
-    const size_t row = std::min(first.size(), kLengths - 1);
-    maybeFirst[row][first.empty() ? 0 : static_cast<unsigned char>(first[0])] = true;
+  Keyword_Word_Ids ids(s.KeywordsForceSameCase != 0);
+  std::vector<std::vector<uint32_t>> phrases(static_cast<size_t>(s.KeywordCount));
+  for (size_t i = 0; i < phrases.size(); ++i) {
+    for (const std::string& word : s.KeywordWords[i])
+      phrases[i].push_back(ids.Add(word));
   }
-  const FirstWords firstWords(s, upper);
-
-  std::vector<int64_t> found(static_cast<size_t>(s.KeywordCount), 0);
-  for (int32_t k = 0; k <= count; ++k) {
-    if ((k & 4095) == 4095)
+  Pattern_Automaton automaton(phrases, ids.Count());
+  int32_t state = Pattern_Automaton::kRoot;
+  for (int32_t k = 0; k < count; ++k) {
+    if ((k & kWordsBetweenEvents) == kWordsBetweenEvents)
       s.platform->DoEvents();
-    const std::string_view word = Document_Word(s, k, count);
-    const size_t row = std::min(word.size(), kLengths - 1);
-    const char first = word.empty() ? '\0' : upper ? text::UpperAscii(word[0]) : word[0];
-    if (!maybeFirst[row][static_cast<unsigned char>(first)])
-      continue;
-    const std::vector<int16_t>* keywords = firstWords.Find(word);
-    if (keywords == nullptr)
-      continue;
-    for (const int16_t i : *keywords) {
-      const std::vector<std::string>& kw = s.KeywordWords[static_cast<size_t>(i)];
-      const int16_t last = s.KeywordLastWordIndex[static_cast<size_t>(i)];
-      // A phrase matches only where all of its words follow one another inside the list.
-      bool whole = true;
-      for (int32_t j = 1; j <= last && whole; ++j) {
-        whole = k + j < count &&
-                Same_Word(Document_Word(s, k + j, count), kw[static_cast<size_t>(j)], upper);
-      }
-      if (whole)
-        ++found[static_cast<size_t>(i)];
-    }
+    const int32_t id = ids.Find(s.DocumentWords[static_cast<size_t>(k)]);
+    state = id < 0 ? Pattern_Automaton::kRoot : automaton.Next(state, static_cast<uint32_t>(id));
+    automaton.Count(state);
   }
+  const std::vector<int64_t>& totals = automaton.Occurrences();
+
   for (int16_t i = 0; i < s.KeywordCount; ++i) {
+    const std::vector<std::string>& words = s.KeywordWords[static_cast<size_t>(i)];
+    const bool emptyWord = words.size() == 1 && words[0].empty();
     int16_t& matches = At(s.KeywordBodyMatches, i);
-    const int64_t total = int64_t{matches} + found[static_cast<size_t>(i)];
+    const int64_t total = int64_t{matches} +
+                          totals[static_cast<size_t>(automaton.End(static_cast<size_t>(i)))] +
+                          emptyWord;
     if (total > INT16_MAX) {
       matches = INT16_MAX;
       RaiseOverflow();
@@ -236,12 +243,11 @@ void FillBodyView(AppState& s) {
 }  // namespace
 
 int16_t Tally_Current_TITLE_Keyword_Matches(AppState& s) {
-  const std::string title = UnderCaseRule(s, s.TitleText);
+  const std::vector<int64_t> found = Occurrences_In_Text(s, s.TitleText);
   int16_t n = 0;
   for (int16_t i = 0; i < s.KeywordCount; ++i) {
-    const std::string keyword = UnderCaseRule(s, At(s.KeywordList, i));
     int16_t& matches = At(s.KeywordTitleMatches, i);
-    matches = CountOverlapping(title, keyword, 0);
+    matches = ToInt16(found[static_cast<size_t>(i)]);
     if (matches > 0)
       n = ToInt16(int32_t{n} + 1);
   }

@@ -12,14 +12,36 @@ void Reset_Report(AppState& s) {
   s.ReportWritePos = 1;
 }
 
-void Report(AppState& s, const std::string& text) {
-  const int64_t length = static_cast<int64_t>(text.size()) + 2;
+namespace {
+
+void Advance(AppState& s, size_t textLength) {
+  const int64_t length = static_cast<int64_t>(textLength) + 2;
   // A line longer than one step still fits whole: the buffer grows until it does.
   while (int64_t{s.ReportWritePos} + length >= s.ReportBufferSize)
     s.ReportBufferSize = ToInt32(int64_t{s.ReportBufferSize} + kReportBufferStep);
+  s.ReportWritePos = ToInt32(int64_t{s.ReportWritePos} + length);
+}
+
+}  // namespace
+
+void Report(AppState& s, const std::string& text) {
+  Advance(s, text.size());
   s.ReportBuffer += text;
   s.ReportBuffer += text::kCrLf;
-  s.ReportWritePos = ToInt32(int64_t{s.ReportWritePos} + length);
+}
+
+void Report(AppState& s, std::string&& text) {
+  Advance(s, text.size());
+  // A line longer than all before it, with room for them, takes them in at its front: the
+  // report then holds its one copy of a huge line (such as the duplicates text).
+  const size_t whole = s.ReportBuffer.size() + text.size() + text::kCrLf.size();
+  if (text.size() > s.ReportBuffer.size() && text.capacity() >= whole) {
+    text.insert(0, s.ReportBuffer);
+    s.ReportBuffer = std::move(text);
+  } else {
+    s.ReportBuffer += text;
+  }
+  s.ReportBuffer += text::kCrLf;
 }
 
 int32_t Report_Center_Pad(size_t length) {
@@ -39,8 +61,9 @@ std::string Report_Center_AddString(const std::string& text) {
   return std::string(static_cast<size_t>(Report_Center_Pad(text.size())), ' ') + text;
 }
 
-void Report_Center(AppState& s, const std::string& text) {
-  Report(s, Report_Center_AddString(text));
+void Report_Center(AppState& s, std::string text) {
+  text.insert(0, static_cast<size_t>(Report_Center_Pad(text.size())), ' ');
+  Report(s, std::move(text));
 }
 
 void Report_Section_Break(AppState& s, const std::string& text) {
@@ -57,8 +80,9 @@ void Report_Title(AppState& s, const std::string& text) {
 
 void Reports_Colour_Warnings(AppState&) {}
 
-std::string Report_Text(const AppState& s) {
-  return s.ReportBuffer + " ";
+std::string Report_Text(AppState& s) {
+  s.ReportBuffer += ' ';
+  return std::move(s.ReportBuffer);
 }
 
 }  // namespace zentrel::analysis

@@ -1,6 +1,11 @@
 #include "analysis/keyword_matching.h"
 
+#include <random>
+#include <sstream>
+
 #include "analysis_fixture.h"
+#include "base/text.h"
+#include "words/word_extraction.h"
 
 namespace zentrel::analysis {
 namespace {
@@ -18,16 +23,6 @@ struct Matching : testing::Analysis {
   }
 };
 
-TEST(Tally_Current_TITLE_Keyword_Matches, OverlappingAndInsideWords) {
-  Matching m({"cheap", "aa", "art", "none"}, {});
-  m.s.TitleText = "Cheap Cheap Shoes aaa Smart Art";
-  EXPECT_EQ(Tally_Current_TITLE_Keyword_Matches(m.s), 3);
-  EXPECT_EQ(Counts(m.s.KeywordTitleMatches.begin(), m.s.KeywordTitleMatches.begin() + 4),
-            (Counts{2, 2, 2, 0}));
-  m.s.KeywordsForceSameCase = 0;
-  EXPECT_EQ(Tally_Current_TITLE_Keyword_Matches(m.s), 2);
-}
-
 TEST(Tally_Current_Documents_Keyword_Matches, TextScanCountsEverywhereInTheSource) {
   Matching m({"shoe", "keywords", "ana"}, {"Shoes", "and", "SHOESTRING", "banana"});
   m.s.KeywordsMatchScanType = 0;
@@ -42,22 +37,125 @@ TEST(Tally_Current_Documents_Keyword_Matches, TextScanCountsEverywhereInTheSourc
   EXPECT_EQ(m.Body(), (Counts{4, 2, 4}));
 }
 
-TEST(Tally_Current_Documents_Keyword_Matches, WordScanMatchesWholeWordsAndPhrases) {
-  Matching m({"shoe", "red  shoes", "Shoes", "blue cat", "\"\""},
-             {"red", "Shoes", "shoestring", "red", "shoes", "red", "blue"});
-  EXPECT_EQ(m.Body(), (Counts{0, 2, 2, 0, 1}));
-
-  // A phrase whose first word is the document's last word gives no match.
+// A phrase whose first word is the document's last word gives no match; a raw body view
+// stays as decoded.
+TEST(Tally_Current_Documents_Keyword_Matches, WordScanPhraseAtTheEndAndRawBodyView) {
   Matching last({"blue cat", "cat"}, {"cat", "blue"});
-  last.s.KeywordsForceSameCase = 0;
-  last.s.ViewBodyShowRaw = 1;  // the body view stays as decoded
+  last.s.ViewBodyShowRaw = 1;
   last.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox = "as decoded";
   EXPECT_EQ(last.Body(), (Counts{0, 1}));
   EXPECT_EQ(last.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox, "as decoded");
+}
 
-  // Keywords sharing a first word are each counted, whatever the case of the page's words.
-  Matching shared({"red", "red shoes", "Red hat", "red"}, {"RED", "shoes", "red", "hat", "Red"});
-  EXPECT_EQ(shared.Body(), (Counts{3, 1, 1, 3}));
+// The tallies as their steps read: repeated searches from one past the last hit, and a
+// word-by-word comparison at every position up to one past the last word.
+int64_t Literal_Text_Count(const std::string& text, const std::string& keyword) {
+  int64_t n = 0;
+  for (int64_t p = text::InStr(1, text, keyword); p != 0; p = text::InStr(p + 1, text, keyword))
+    ++n;
+  return n;
+}
+
+int64_t Literal_Word_Count(std::vector<std::string> w, const std::string& keyword) {
+  std::vector<std::string> kw;
+  std::istringstream split(text::Trim(words::MakeStringSingleSpaced(keyword)));
+  for (std::string part; split >> part;)
+    kw.push_back(part);
+  if (kw.empty())
+    kw.emplace_back();
+  const size_t count = w.size(), last = kw.size() - 1;
+  w.emplace_back();  // the slot one past the last word
+  int64_t n = 0;
+  for (size_t k = 0; k <= count; ++k) {
+    if (w[k] != kw[0])
+      continue;
+    size_t h = 0;
+    for (size_t j = 0; j <= last; ++j)
+      h += k + j < count && kw[j] == w[k + j];
+    n += last == 0 || h == last + 1;
+  }
+  return n;
+}
+
+TEST(Tally_Current_Documents_Keyword_Matches, EqualsTheLiteralStepsOnRandomInputs) {
+  Matching m({}, {});
+  std::mt19937 rng(12);
+  auto pick = [&](size_t n) { return std::uniform_int_distribution<size_t>(0, n - 1)(rng); };
+  auto random_text = [&](const std::string& letters, size_t longest) {
+    std::string t(pick(longest + 1), ' ');
+    for (char& c : t)
+      c = letters[pick(letters.size())];
+    return t;
+  };
+  for (int round = 0; round < 3000; ++round) {
+    const bool upper = pick(2) == 1;
+    m.s.KeywordsForceSameCase = upper;
+    // Now and then a list big enough that the automaton keeps only its shortest nodes dense,
+    // with texts of the same two letters, so that they reach its deep nodes.
+    const bool big = round % 8 == 0;
+    std::vector<std::string> keywords(big ? 90 : pick(9));
+    for (size_t i = 0; i < keywords.size(); ++i)  // some repeat an earlier one
+      keywords[i] = i > 0 && pick(5) == 0 ? keywords[pick(i)]
+                    : big                 ? random_text("ab", 20)
+                                          : random_text("aAb \"", 7);
+    std::vector<std::string> page(pick(30));
+    for (std::string& word : page)
+      word = random_text("aAb", 3) + "a";
+    m.Keywords({});
+    std::copy(keywords.begin(), keywords.end(), m.s.KeywordList.begin());  // blanks included
+    m.s.KeywordCount = static_cast<int16_t>(keywords.size());
+    m.Words(page);
+    m.s.TitleText = big ? random_text("ab", 200) : random_text("aAb ", 40);
+    m.s.DocumentText = big ? random_text("ab", 200) : random_text("aAb<", 60);
+    auto fold = [upper](const std::string& t) { return upper ? text::UCase(t) : t; };
+    std::vector<std::string> folded;
+    std::transform(page.begin(), page.end(), std::back_inserter(folded), fold);
+    Counts title, text, words;
+    for (const std::string& k : keywords) {
+      title.push_back(static_cast<int16_t>(Literal_Text_Count(fold(m.s.TitleText), fold(k))));
+      text.push_back(static_cast<int16_t>(Literal_Text_Count(fold(m.s.DocumentText), fold(k))));
+      words.push_back(static_cast<int16_t>(Literal_Word_Count(folded, fold(k))));
+    }
+    SCOPED_TRACE(::testing::PrintToString(keywords) + " in " + m.s.TitleText + " | " +
+                 m.s.DocumentText + " | " + ::testing::PrintToString(page));
+    const auto found = std::count_if(title.begin(), title.end(), [](int16_t n) { return n > 0; });
+    EXPECT_EQ(Tally_Current_TITLE_Keyword_Matches(m.s), found);
+    EXPECT_EQ(
+        Counts(m.s.KeywordTitleMatches.begin(), m.s.KeywordTitleMatches.begin() + m.s.KeywordCount),
+        title);
+    m.s.KeywordsMatchScanType = 0;
+    EXPECT_EQ(m.Body(), text);
+    std::fill(m.s.KeywordBodyMatches.begin(), m.s.KeywordBodyMatches.end(), int16_t{0});
+    m.s.KeywordsMatchScanType = 1;
+    EXPECT_EQ(m.Body(), words);
+    if (HasFailure())
+      return;
+  }
+}
+
+// A count past 32767 is the Overflow error, raised at the keyword that overflows; the
+// keywords before it keep their new counts.
+TEST(Tally_Current_Documents_Keyword_Matches, CountsPast32767AreOverflow) {
+  Matching m({"b", "a", "c"}, std::vector<std::string>(32767, "a"));
+  m.s.TitleText = std::string(32768, 'a') + "b";
+  m.s.DocumentText = std::string(32767, 'a') + "b";
+  m.s.KeywordsMatchScanType = 0;
+  auto expect_overflow = [](auto&& tally) {
+    try {
+      tally();
+      ADD_FAILURE() << "no overflow";
+    } catch (const RunTimeError& e) {
+      EXPECT_EQ(e.Code(), RunTimeError::kOverflow);
+    }
+  };
+  expect_overflow([&] { Tally_Current_TITLE_Keyword_Matches(m.s); });
+  EXPECT_EQ(m.s.KeywordTitleMatches[0], 1);
+  EXPECT_EQ(m.Body(), (Counts{1, 32767, 0}));  // just inside the limit
+  expect_overflow([&] { m.Body(); });          // counts add to the previous ones
+  EXPECT_EQ(m.s.KeywordBodyMatches[0], 2);
+  m.s.KeywordsMatchScanType = 1;
+  m.s.KeywordBodyMatches[1] = 1;
+  expect_overflow([&] { m.Body(); });
 }
 
 TEST(Check_Percentage_String, CutsToFourCharacters) {

@@ -31,7 +31,12 @@ TEST(Report, GrowsTheBufferByStepsAndLosesNothing) {
   const std::string longLine(60000, 'L');  // longer than a step, still lands whole
   Report(w.s, longLine);
   EXPECT_EQ(w.s.ReportBufferSize, 175000);
-  EXPECT_EQ(Report_Text(w.s), expected + longLine + "\r\n ");
+  std::string huge(200000, 'H');  // longer than all before it and with room: taken in whole
+  huge.reserve(400000);
+  Report(w.s, std::move(huge));
+  Report(w.s, "after");
+  EXPECT_EQ(Report_Text(w.s),
+            expected + longLine + "\r\n" + std::string(200000, 'H') + "\r\nafter\r\n ");
 }
 
 }  // namespace

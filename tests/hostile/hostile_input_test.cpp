@@ -19,12 +19,14 @@
 #include "app/preferences.h"
 #include "app/startup.h"
 #include "fake_platform.h"
+#include "heavy_inputs.h"
 #include "test_files.h"
 
 namespace zentrel {
 
 namespace fs = std::filesystem;
 using namespace std::string_literals;
+using bench::Repeat;
 using testing::FakePlatform;
 using testing::TempFolder;
 using testing::WriteFile;
@@ -40,14 +42,6 @@ struct Case {
   std::function<std::string()> page;  // bytes of the page file
   Outcome outcome;
 };
-
-std::string Repeat(const std::string& piece, size_t times) {
-  std::string out;
-  out.reserve(piece.size() * times);
-  for (size_t i = 0; i < times; ++i)
-    out += piece;
-  return out;
-}
 
 std::string Wrap(const std::string& body) {
   return "<html><head><title>Test </title></head><body>" + body + "</body></html>";
@@ -145,39 +139,6 @@ const std::vector<Case>& Cases() {
   return cases;
 }
 
-// A program folder of its own, with the standard dictionary, for each case.
-class Hostile : public ::testing::Test {
- protected:
-  void SetUp() override {
-    fs::copy(fs::current_path() / "dictionary", dir_.path() / "dictionary",
-             fs::copy_options::recursive);
-    state_.emplace(platform_);
-    app::Form_Load(*state_);
-  }
-
-  // "Load Page" through the window's command, answering the dialog with path.
-  void Load(const std::string& path) {
-    platform_.AnswerOpen(path);
-    app::Dispatch(*state_, "Command1");
-  }
-
-  void Expect_Good_Page_Still_Analyses() {
-    WriteFile(dir_.File("good.html"),
-              "<html><head><title>Shop </title></head><body>good words and more good words"
-              "</body></html>");
-    platform_.messages.clear();
-    Load(dir_.File("good.html"));
-    EXPECT_TRUE(platform_.messages.empty());
-    EXPECT_NE(state_->Form.ReportTextBox.find("Process Done"), std::string::npos);
-    EXPECT_NE(state_->Form.ScanKeyWords_DocumentWordCount_TextBox.find(" 2 - good"),
-              std::string::npos);
-  }
-
-  TempFolder dir_;
-  FakePlatform platform_{dir_.path().string()};
-  std::optional<AppState> state_;
-};
-
 void Expect_Outcome(const FakePlatform& p, const AppState& s, Outcome outcome) {
   auto only_message = [&](const std::string& text) {
     ASSERT_EQ(p.messages.size(), 1u);
@@ -204,22 +165,74 @@ void Expect_Outcome(const FakePlatform& p, const AppState& s, Outcome outcome) {
   }
 }
 
-}  // namespace
+// A program folder of its own, with the standard dictionary, for each case.
+class Hostile : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    fs::copy(fs::current_path() / "dictionary", dir_.path() / "dictionary",
+             fs::copy_options::recursive);
+    state_.emplace(platform_);
+    app::Form_Load(*state_);
+  }
 
-TEST_F(Hostile, EveryPageEndsInItsDefinedOutcome) {
-  for (const Case& c : Cases()) {
-    SCOPED_TRACE(c.name);
+  // "Load Page" through the window's command, answering the dialog with path.
+  void Load(const std::string& path) {
+    platform_.AnswerOpen(path);
+    app::Dispatch(*state_, "Command1");
+  }
+
+  // Loads the page from a file, prints how long it took, expects its outcome, and then
+  // expects a good page to load normally.
+  void Load_Timed(const char* name, const std::string& page, Outcome outcome) {
     std::string path = dir_.File("hostile.html");
-    WriteFile(path, c.page());
+    WriteFile(path, page);
     platform_.messages.clear();
     state_->Form.ReportTextBox.clear();
     auto start = std::chrono::steady_clock::now();
     Load(path);
     auto ms = std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start);
-    std::cout << "[ hostile  ] " << c.name << ": " << kOutcomeNames[static_cast<int>(c.outcome)]
-              << ", " << ms.count() << " ms\n";
-    Expect_Outcome(platform_, *state_, c.outcome);
+    std::cout << "[ hostile  ] " << name << ": " << kOutcomeNames[static_cast<int>(outcome)] << ", "
+              << ms.count() << " ms\n";
+    Expect_Outcome(platform_, *state_, outcome);
     Expect_Good_Page_Still_Analyses();
+  }
+
+  void Expect_Good_Page_Still_Analyses() {
+    WriteFile(dir_.File("good.html"),
+              "<html><head><title>Shop </title></head><body>good words and more good words"
+              "</body></html>");
+    platform_.messages.clear();
+    Load(dir_.File("good.html"));
+    EXPECT_TRUE(platform_.messages.empty());
+    EXPECT_NE(state_->Form.ReportTextBox.find("Process Done"), std::string::npos);
+    EXPECT_NE(state_->Form.ScanKeyWords_DocumentWordCount_TextBox.find(" 2 - good"),
+              std::string::npos);
+  }
+
+  TempFolder dir_;
+  FakePlatform platform_{dir_.path().string()};
+  std::optional<AppState> state_;
+};
+
+}  // namespace
+
+TEST_F(Hostile, EveryPageEndsInItsDefinedOutcome) {
+  for (const Case& c : Cases()) {
+    SCOPED_TRACE(c.name);
+    Load_Timed(c.name, c.page(), c.outcome);
+  }
+}
+
+// Near-miss keywords, 1001 keywords on big pages in both scans, long phrases, a keyword
+// repeated 1001 times with duplicates kept and a 4 MB preferences line, each with its
+// preferences: every one ends in a report. bench/heavy.sh measures their time and memory.
+TEST_F(Hostile, HeavyInputsEndInAReport) {
+  for (const bench::Heavy_Input& input : bench::Heavy_Inputs()) {
+    SCOPED_TRACE(input.name);
+    WriteFile(dir_.File("Zentrel_Pref.txt"), input.prefs());
+    state_.emplace(platform_);
+    app::Form_Load(*state_);
+    Load_Timed(input.name, input.page(), Outcome::Report);
   }
 }
 
