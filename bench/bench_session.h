@@ -5,14 +5,14 @@
 #include <memory>
 #include <string>
 
-#include "app/app_state.h"
-#include "app/silent_platform.h"
+#include "state/app_state.h"
+#include "state/silent_platform.h"
 
 namespace zentrel::bench {
 
 struct Session {
   explicit Session(const std::string& page);
-  app::SilentPlatform platform;
+  state::SilentPlatform platform;
   std::unique_ptr<AppState> state;
 };
 

@@ -6,13 +6,13 @@
 #include "analysis/keyword_list.h"
 #include "analysis/keyword_matching.h"
 #include "analysis/page_report.h"
-#include "app/app_state.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "decode/decoder.h"
 #include "decode/meta_tag_table.h"
 #include "document/document_cache.h"
 #include "metatags/meta_tag_panel.h"
+#include "state/app_state.h"
 #include "words/filter_dictionary.h"
 #include "words/word_count.h"
 
@@ -21,8 +21,6 @@ namespace zentrel::analysis {
 namespace {
 
 using text::SignedNumber;
-
-constexpr int32_t kOriginalTagListStart = 500;
 
 void Blank(AppState& s) {
   Report(s, "");
@@ -44,9 +42,6 @@ void ResetForScan(AppState& s) {
   s.TitleStart = 0;
   s.TitleEnd = 0;
   words::Init_Document_Word_List(s);
-  s.OriginalTagList.assign(static_cast<size_t>(kOriginalTagListStart) + 1, std::string());
-  s.OriginalTagListCapacity = kOriginalTagListStart;
-  s.OriginalTagListCount = 0;
   words::Build_Filter_Words_Text(s);
 }
 
@@ -155,7 +150,7 @@ void ReportWordCount(AppState& s) {
 }  // namespace
 
 void Meta_Tag_KeyWord_Scan(AppState& s, const std::string& /*fileName*/) {
-  app::BusyCursor busy(*s.platform);
+  state::BusyCursor busy(*s.platform);
   s.platform->DoEvents();
   ResetForScan(s);
   s.Form.ScanKeyWords_DocumentWordCount_TextBox.clear();

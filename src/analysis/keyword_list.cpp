@@ -2,10 +2,10 @@
 
 #include <vector>
 
-#include "app/app_state.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "decode/meta_tag_table.h"
+#include "state/app_state.h"
 #include "words/word_extraction.h"
 
 namespace zentrel::analysis {
@@ -17,10 +17,8 @@ constexpr size_t kReportRoom = 1 << 16;  // for the report lines around the dupl
 void ResizeKeywordArrays(AppState& s) {
   const size_t size = static_cast<size_t>(s.KeywordCapacity) + 1;
   s.KeywordList.resize(size);
-  s.KeywordPhrase.resize(size);
   s.KeywordBodyMatches.resize(size, 0);
   s.KeywordTitleMatches.resize(size, 0);
-  s.KeywordFirstChr.resize(size, 0);
 }
 
 }  // namespace
@@ -28,12 +26,9 @@ void ResizeKeywordArrays(AppState& s) {
 void Reset_Keyword_List(AppState& s) {
   s.KeywordCount = 0;
   s.KeywordCapacity = kKeywordListStart;
-  s.KeywordWordsSize = 1;
   s.KeywordList.clear();
-  s.KeywordPhrase.clear();
   s.KeywordBodyMatches.clear();
   s.KeywordTitleMatches.clear();
-  s.KeywordFirstChr.clear();
   ResizeKeywordArrays(s);
   s.KeywordSplitCount = 0;
 }
@@ -49,7 +44,6 @@ void Add_Word_To_KeyWord_buffer(AppState& s, const std::string& word) {
   const int16_t i = s.KeywordCount;
   At(s.KeywordList, i) = trimmed;
   At(s.KeywordBodyMatches, i) = 0;
-  At(s.KeywordFirstChr, i) = static_cast<int16_t>(static_cast<unsigned char>(trimmed[0]));
   s.KeywordCount = ToInt16(int32_t{s.KeywordCount} + 1);
 }
 
@@ -121,11 +115,10 @@ void Remove_Keyword_Doubles(AppState& s) {
   for (int16_t i = 0; i < s.KeywordCount; ++i) {
     if (At(s.KeywordList, i).empty())
       continue;
-    // Only these three move; title matches, phrases and words keep their old places.
+    // Only these two move; title matches and words keep their old places.
     if (n != i) {
       s.KeywordList[static_cast<size_t>(n)] = s.KeywordList[static_cast<size_t>(i)];
       At(s.KeywordBodyMatches, n) = At(s.KeywordBodyMatches, i);
-      At(s.KeywordFirstChr, n) = At(s.KeywordFirstChr, i);
     }
     ++n;
   }
@@ -159,7 +152,6 @@ void Sort_Page_KeyWord_Strings(AppState& s) {
   const size_t size = static_cast<size_t>(count) + 2;
   std::vector<std::string> words(size);
   std::vector<int16_t> matches(size, 0);
-  std::vector<int16_t> firstChr(size, 0);
   std::vector<int32_t> tally(kKeywordSortTally, 0);
   int32_t max = 0;
   for (int32_t i = 0; i < count; ++i) {
@@ -179,7 +171,6 @@ void Sort_Page_KeyWord_Strings(AppState& s) {
     const size_t p = static_cast<size_t>(tally[static_cast<size_t>(s.KeywordBodyMatches[from])]++);
     words[p] = std::move(s.KeywordList[from]);
     matches[p] = s.KeywordBodyMatches[from];
-    firstChr[p] = s.KeywordFirstChr[from];
   }
   // Reverse copy: most matches first, equal counts in the reverse of their former order.
   for (int32_t k = 0; k < count; ++k) {
@@ -187,7 +178,6 @@ void Sort_Page_KeyWord_Strings(AppState& s) {
     const size_t to = static_cast<size_t>(k);
     s.KeywordList[to] = std::move(words[from]);
     s.KeywordBodyMatches[to] = matches[from];
-    s.KeywordFirstChr[to] = firstChr[from];
   }
 }
 

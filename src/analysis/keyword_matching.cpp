@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "analysis/pattern_automaton.h"
-#include "app/app_state.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "state/app_state.h"
 #include "words/word_extraction.h"
 
 namespace zentrel::analysis {
@@ -77,16 +77,12 @@ std::vector<std::string> SplitAtSpaces(const std::string& phrase) {
 void PrepareKeywordWords(AppState& s) {
   const size_t slots = static_cast<size_t>(s.KeywordCapacity) + 1;
   s.KeywordWords.assign(slots, std::vector<std::string>());
-  s.KeywordLastWordIndex.assign(slots, 0);
   for (int16_t i = 0; i < s.KeywordCount; ++i) {
-    s.CurrentKeyword = words::MakeStringSingleSpaced(UnderCaseRule(s, At(s.KeywordList, i)));
-    const std::string phrase = text::Trim(s.CurrentKeyword);
+    const std::string phrase =
+        text::Trim(words::MakeStringSingleSpaced(UnderCaseRule(s, At(s.KeywordList, i))));
     std::vector<std::string> parts = SplitAtSpaces(phrase);
-    const int16_t last = ToInt16(static_cast<int64_t>(parts.size()) - 1);
-    if (last >= s.KeywordWordsSize)
-      s.KeywordWordsSize = ToInt16(int32_t{last} + 1);
-    At(s.KeywordPhrase, i) = phrase;
-    At(s.KeywordLastWordIndex, i) = last;
+    // A keyword's words are counted in 16 bits: 32768 words or more overflow.
+    ToInt16(static_cast<int64_t>(parts.size()));
     At(s.KeywordWords, i) = std::move(parts);
   }
 }
@@ -94,7 +90,6 @@ void PrepareKeywordWords(AppState& s) {
 void ScanText(AppState& s) {
   const std::vector<int64_t> found = Occurrences_In_Text(s, s.DocumentText);
   for (int16_t i = 0; i < s.KeywordCount; ++i) {
-    s.CurrentKeyword = UnderCaseRule(s, At(s.KeywordList, i));
     int16_t& matches = At(s.KeywordBodyMatches, i);
     matches = ToInt16(int64_t{matches} + found[static_cast<size_t>(i)]);
   }
@@ -278,13 +273,6 @@ std::string Check_Percentage_String(const std::string& value) {
   if (!s.empty() && s[0] == '.')
     s = "0" + s;
   return s.substr(0, 4);
-}
-
-int32_t Calc_Total_Length_Of_Documents_Words(const AppState& s) {
-  int64_t total = 0;
-  for (int16_t i = 0; i < s.KeywordCount; ++i)
-    total += static_cast<int64_t>(At(s.KeywordList, i).size());
-  return ToInt32(total);
 }
 
 std::string Double_To_Text(double value) {

@@ -13,7 +13,6 @@ namespace zentrel::analysis {
 int16_t Tally_Current_TITLE_Keyword_Matches(AppState& s);
 void Tally_Current_Documents_Keyword_Matches(AppState& s);
 std::string Check_Percentage_String(const std::string& text);
-int32_t Calc_Total_Length_Of_Documents_Words(const AppState& s);
 // The standard decimal text of a double: shortest form up to 15 significant digits, a leading
 // space when not negative, no "0" before the point, exponent form for very small values.
 std::string Double_To_Text(double value);

@@ -1,8 +1,8 @@
 #include "analysis/page_report.h"
 
-#include "app/app_state.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "state/app_state.h"
 
 namespace zentrel::analysis {
 
@@ -77,8 +77,6 @@ void Report_Title(AppState& s, const std::string& text) {
   Report(s, pad + text);
   Report(s, pad + std::string(text.size(), '='));
 }
-
-void Reports_Colour_Warnings(AppState&) {}
 
 std::string Report_Text(AppState& s) {
   s.ReportBuffer += ' ';

@@ -17,15 +17,6 @@ inline constexpr const char* kReportRule =
     "*=----------------------------------------------------------------------=*";
 inline constexpr int32_t kReportWidth = 74;
 
-struct PageReportFields {
-  // The text written so far. The classic buffer is this text followed by spaces up to
-  // ReportBufferSize; only the written part is stored, and the size is kept as bookkeeping.
-  // The finished report is handed over to the "Page Report" box, not copied.
-  std::string ReportBuffer;
-  int32_t ReportBufferSize = 0;
-  int32_t ReportWritePos = 1;  // 1-based
-};
-
 void Reset_Report(AppState& s);
 void Report(AppState& s, const std::string& text);
 void Report(AppState& s, std::string&& text);
@@ -33,7 +24,6 @@ void Report_Center(AppState& s, std::string text);
 std::string Report_Center_AddString(const std::string& text);
 void Report_Section_Break(AppState& s, const std::string& text);
 void Report_Title(AppState& s, const std::string& text);
-void Reports_Colour_Warnings(AppState& s);
 // The spaces that centre a text of this length on the 74-character report width.
 int32_t Report_Center_Pad(size_t length);
 // The finished report, handed over without a copy: the first ReportWritePos characters of

@@ -1,8 +1,8 @@
 #include "analysis/report_export.h"
 
-#include "app/app_state.h"
 #include "app/page_saving.h"
 #include "base/file_io.h"
+#include "state/app_state.h"
 
 namespace zentrel::analysis {
 

@@ -5,7 +5,6 @@
 
 #include "analysis/analysis_driver.h"
 #include "analysis/report_export.h"
-#include "app/app_state.h"
 #include "app/page_loading.h"
 #include "app/page_saving.h"
 #include "app/source_search.h"
@@ -14,6 +13,7 @@
 #include "metatags/choice_lists.h"
 #include "metatags/meta_tag_panel.h"
 #include "metatags/page_encoder.h"
+#include "state/app_state.h"
 #include "words/dictionary_commands.h"
 
 namespace zentrel::app {

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "analysis/analysis_driver.h"
-#include "app/app_state.h"
 #include "app/startup.h"
 #include "base/file_io.h"
 #include "base/run_time_error.h"
@@ -12,6 +11,7 @@
 #include "document/document_cache.h"
 #include "metatags/choice_lists.h"
 #include "metatags/meta_tag_panel.h"
+#include "state/app_state.h"
 
 namespace zentrel::app {
 
@@ -64,7 +64,8 @@ void Add_Recent_File(AppState& s, const std::string& path) {
 
 void Do_Load_File(AppState& s, const std::string& /*path*/, int16_t /*flag*/) {
   // The dialog always starts from the current file, whatever the caller passed.
-  FileDialog dialog{s.CurrentFileName, kPageFilter, s.DefaultFileTypeIndex, s.DefaultFileExtension};
+  state::FileDialog dialog{s.CurrentFileName, kPageFilter, s.DefaultFileTypeIndex,
+                           s.DefaultFileExtension};
   if (!s.platform->ShowOpen(dialog))
     return;
   s.DefaultFileTypeIndex = dialog.FilterIndex;
@@ -82,7 +83,7 @@ void Load_Chosen_Page(AppState& s, const std::string& path) {
 
 std::string Do_Select_Load_File(AppState& s, const std::string& filter, int16_t filterIndex,
                                 const std::string& defaultExt) {
-  FileDialog dialog{"", filter, filterIndex, defaultExt};
+  state::FileDialog dialog{"", filter, filterIndex, defaultExt};
   if (!s.platform->ShowOpen(dialog))
     return {};
   return dialog.FileName;
@@ -119,7 +120,7 @@ void Show_Quick_Load_File_MNU_Listings(AppState& s) {
     return;
   s.Form.mnu_file_QuickLoadSlash.Visible = false;
   for (int16_t i = 0; i < kRecentShown; ++i) {
-    MenuEntry& entry = At(s.Form.mnu_file_QuickLoadFile, i);
+    state::MenuEntry& entry = At(s.Form.mnu_file_QuickLoadFile, i);
     if (i < s.RecentFileCount) {
       std::string label = text::SignedNumber(i + 1) + ":";
       entry.Caption = Clip_FileName(At(s.RecentFiles, i), label, kRecentCaptionLength);

@@ -1,9 +1,9 @@
 #include "app/page_saving.h"
 
-#include "app/app_state.h"
 #include "app/page_loading.h"
 #include "app/startup.h"
 #include "metatags/page_encoder.h"
+#include "state/app_state.h"
 
 namespace zentrel::app {
 
@@ -23,7 +23,8 @@ void mnu_File_SAVESA_Click(AppState& s) {
 void Do_save(AppState& s) {
   if (s.DocumentLength == 0)
     return;
-  FileDialog dialog{s.CurrentFileName, kPageFilter, s.DefaultFileTypeIndex, s.DefaultFileExtension};
+  state::FileDialog dialog{s.CurrentFileName, kPageFilter, s.DefaultFileTypeIndex,
+                           s.DefaultFileExtension};
   if (!s.platform->ShowSave(dialog))
     return;
   s.DefaultFileTypeIndex = dialog.FilterIndex;
@@ -38,7 +39,7 @@ void Do_save(AppState& s) {
 
 std::string Do_Select_Save_File(AppState& s, const std::string& fileName, const std::string& filter,
                                 int16_t filterIndex, const std::string& defaultExt) {
-  FileDialog dialog{fileName, filter, filterIndex, defaultExt};
+  state::FileDialog dialog{fileName, filter, filterIndex, defaultExt};
   if (!s.platform->ShowSave(dialog))
     return {};
   return dialog.FileName;

@@ -3,12 +3,12 @@
 #include <cmath>
 #include <string_view>
 
-#include "app/app_state.h"
 #include "app/page_loading.h"
 #include "app/startup.h"
 #include "base/file_io.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "state/app_state.h"
 
 namespace zentrel::app {
 
@@ -29,9 +29,9 @@ enum class Format {
 struct Entry {
   std::string_view Key;
   Format Kind;
-  int16_t ShellFields::*Flag = nullptr;
-  int32_t ShellFields::*Number = nullptr;
-  std::string ShellFields::*Str = nullptr;
+  int16_t state::ShellFields::*Flag = nullptr;
+  int32_t state::ShellFields::*Number = nullptr;
+  std::string state::ShellFields::*Str = nullptr;
   std::string_view Constant = {};
 };
 
@@ -42,22 +42,24 @@ const Entry kEntries[] = {
     {"ProgramTitle:", Format::Constant, nullptr, nullptr, nullptr, kProgramName},
     {"ProgramVersion:", Format::Constant, nullptr, nullptr, nullptr, kProgramVersion},
     {"FileLoaded:", Format::RecentList},
-    {"Keywords_Sorted:", Format::Number16, &ShellFields::KeywordsSortList},
-    {"Keywords_RemoveDuplicates:", Format::Number16, &ShellFields::KeywordsRemoveDoubles},
-    {"Keywords_ForceSameCaseMatching:", Format::Number16, &ShellFields::KeywordsForceSameCase},
-    {"Keywords_MinMatches:", Format::Number16, &ShellFields::KeywordsUseMinMatches},
-    {"Keywords_NumberOfMinMatches:", Format::Number16, &ShellFields::KeywordsMinMatches},
-    {"Keywords_MatchingType:", Format::Number16, &ShellFields::KeywordsMatchScanType},
-    {"WordMatch_ForceSameCase:", Format::Number16, &ShellFields::WordMatchForceCase},
-    {"WordMatch_ForceAlphaNumeric:", Format::Number16, &ShellFields::WordMatchIgnoreAlphaNumeric},
-    {"FileType:", Format::Text, nullptr, nullptr, &ShellFields::DefaultFileExtension},
-    {"FileTypeIndex:", Format::Number32, nullptr, &ShellFields::DefaultFileTypeIndex},
-    {"StopWordChrs:", Format::ComaText, nullptr, nullptr, &ShellFields::WordDelimiterChars},
-    {"SwapContentNameOrder:", Format::Bit0, &ShellFields::EncodeSwapContentAndNameOrder},
-    {"KeywordsComaSpace:", Format::Bit0, &ShellFields::EncodeComaSpaceBetweenKeywords},
-    {"IncludeMetaDizzy:", Format::Bit0, &ShellFields::DecodeIncludeMetaDescriptionWithBody},
+    {"Keywords_Sorted:", Format::Number16, &state::ShellFields::KeywordsSortList},
+    {"Keywords_RemoveDuplicates:", Format::Number16, &state::ShellFields::KeywordsRemoveDoubles},
+    {"Keywords_ForceSameCaseMatching:", Format::Number16,
+     &state::ShellFields::KeywordsForceSameCase},
+    {"Keywords_MinMatches:", Format::Number16, &state::ShellFields::KeywordsUseMinMatches},
+    {"Keywords_NumberOfMinMatches:", Format::Number16, &state::ShellFields::KeywordsMinMatches},
+    {"Keywords_MatchingType:", Format::Number16, &state::ShellFields::KeywordsMatchScanType},
+    {"WordMatch_ForceSameCase:", Format::Number16, &state::ShellFields::WordMatchForceCase},
+    {"WordMatch_ForceAlphaNumeric:", Format::Number16,
+     &state::ShellFields::WordMatchIgnoreAlphaNumeric},
+    {"FileType:", Format::Text, nullptr, nullptr, &state::ShellFields::DefaultFileExtension},
+    {"FileTypeIndex:", Format::Number32, nullptr, &state::ShellFields::DefaultFileTypeIndex},
+    {"StopWordChrs:", Format::ComaText, nullptr, nullptr, &state::ShellFields::WordDelimiterChars},
+    {"SwapContentNameOrder:", Format::Bit0, &state::ShellFields::EncodeSwapContentAndNameOrder},
+    {"KeywordsComaSpace:", Format::Bit0, &state::ShellFields::EncodeComaSpaceBetweenKeywords},
+    {"IncludeMetaDizzy:", Format::Bit0, &state::ShellFields::DecodeIncludeMetaDescriptionWithBody},
     {"DefaultWordFilterDictionary:", Format::OptionalText, nullptr, nullptr,
-     &ShellFields::FilterDictionaryFile},
+     &state::ShellFields::FilterDictionaryFile},
 };
 
 // A number read from the start of the value, rounded to nearest (halves to even).

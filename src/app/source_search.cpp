@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "app/app_state.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "document/document_cache.h"
+#include "state/app_state.h"
 
 namespace zentrel::app {
 

@@ -1,6 +1,5 @@
 #include "app/startup.h"
 
-#include "app/app_state.h"
 #include "app/control_table.h"
 #include "app/page_loading.h"
 #include "app/preferences.h"
@@ -9,6 +8,7 @@
 #include "decode/meta_tag_table.h"
 #include "document/tag_scanner.h"
 #include "metatags/choice_lists.h"
+#include "state/app_state.h"
 #include "words/dictionary_commands.h"
 #include "words/filter_dictionary.h"
 #include "words/word_extraction.h"
@@ -45,7 +45,7 @@ void Set_Setting_Defaults(AppState& s) {
 }
 
 void Fill_Min_Matches_DropDown(AppState& s) {
-  DropDown& box = s.Form.KeyWords_MinKeyWordMatches_DropDown;
+  state::DropDown& box = s.Form.KeyWords_MinKeyWordMatches_DropDown;
   box.List.clear();
   box.Text.clear();
   for (int n = 1; n <= kMaxMinMatches; ++n) {
@@ -127,7 +127,7 @@ void Reset_Default_Html_Word_Delimiter(AppState& s) {
 }
 
 void SET_CHeck_boxes(AppState& s) {
-  FormModel& f = s.Form;
+  state::FormModel& f = s.Form;
   f.WordMatch_ForceCase = s.WordMatchForceCase;
   f.WordMatch_IgnoreAlphaNumericWords = s.WordMatchIgnoreAlphaNumeric;
   f.KeyWordMatch_Disable_Part_Keyword_Matches = s.KeywordsDisablePartMatches;

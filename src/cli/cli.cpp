@@ -6,7 +6,6 @@
 
 #include "analysis/analysis_driver.h"
 #include "analysis/report_export.h"
-#include "app/app_state.h"
 #include "app/control_table.h"
 #include "app/page_loading.h"
 #include "app/startup.h"
@@ -19,6 +18,7 @@
 #include "metatags/meta_tag_panel.h"
 #include "metatags/page_encoder.h"
 #include "metatags/tag_list_file.h"
+#include "state/app_state.h"
 #include "words/filter_dictionary.h"
 
 namespace zentrel::cli {
@@ -226,7 +226,7 @@ int Run_Rebuild(const Options& o, std::ostream& err, const std::string& folder) 
   std::vector<std::pair<int16_t, std::string>> fields;
   for (const auto& [name, value] : o.sets) {
     int16_t i = decode::Find_MetaTag_Index(session.state(), name);
-    if (i < 0 || i >= app::kMetaTagFieldCount) {
+    if (i < 0 || i >= state::kMetaTagFieldCount) {
       err << "zentrel-cli: --set: unknown META tag name " << name << "\n";
       return kUsage;
     }

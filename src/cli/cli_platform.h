@@ -5,17 +5,17 @@
 #include <ostream>
 #include <string>
 
-#include "app/platform.h"
+#include "state/platform.h"
 
 namespace zentrel::cli {
 
-class CliPlatform : public app::Platform {
+class CliPlatform : public state::Platform {
  public:
   CliPlatform(std::ostream& err, std::string executableFolder, bool answerYes)
       : err_(err), folder_(std::move(executableFolder)), answerYes_(answerYes) {}
 
-  bool ShowOpen(app::FileDialog&) override { return false; }
-  bool ShowSave(app::FileDialog&) override { return false; }
+  bool ShowOpen(state::FileDialog&) override { return false; }
+  bool ShowSave(state::FileDialog&) override { return false; }
   bool AskYesNo(const std::string& title, const std::string& text) override;
   void ShowMessage(const std::string& text) override;
   void BeginBusy() override {}

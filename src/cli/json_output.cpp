@@ -2,8 +2,8 @@
 
 #include <cstdio>
 
-#include "app/app_state.h"
 #include "base/codec.h"
+#include "state/app_state.h"
 
 namespace zentrel::cli {
 
@@ -52,7 +52,7 @@ void QuotedOwnCodec(std::ostream& out, const std::string& bytes) {
 void Write_Analysis_Json(std::ostream& out, const AppState& s, const std::string& page,
                          const std::optional<std::string>& error) {
   const codec::Codec c = codec::DetectCodec(s.DocumentText);
-  const app::FormModel& f = s.Form;
+  const state::FormModel& f = s.Form;
   auto field = [&](const char* key, const std::string& bytes) {
     out << ",\"" << key << "\":";
     Quoted(out, codec::ToUtf8(bytes, c));

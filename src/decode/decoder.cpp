@@ -4,12 +4,12 @@
 #include <cstring>
 #include <string_view>
 
-#include "app/app_state.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "decode/meta_tag_table.h"
 #include "document/document_cache.h"
 #include "document/tag_scanner.h"
+#include "state/app_state.h"
 #include "words/word_extraction.h"
 
 namespace zentrel::decode {
@@ -193,7 +193,6 @@ void HTML_Decode_Document(AppState& s) {
   if (s.DocumentLength < 1)
     return;
   s.ScanPosition = 0;
-  document::Html_Init_ASCII_Constants(s);
   words::Init_Get_word_string_Chr_table(s);
   s.StrippedText.assign(static_cast<size_t>(s.DocumentLength) + kWordTextPadding, ' ');
   s.StrippedTextPosition = 1;
@@ -207,7 +206,6 @@ void HTML_ReScan_Document(AppState& s) {
   if (s.DocumentLength < 1)
     return;
   s.ScanPosition = 0;
-  document::Html_Init_ASCII_Constants(s);
   words::Init_Get_word_string_Chr_table(s);
   s.ScanEndPosition = s.DocumentLength - 1;
   Reset_HTML_BODY_AND_HEADER_VALUES(s);
@@ -226,7 +224,7 @@ int16_t Html_Decode_TitleTag(AppState& s, const std::string& tagText, int16_t ad
       ToInt32(static_cast<int64_t>(s.TitleEnd) - kTitleCloseLength));
   const int16_t row = Find_MetaTag_Index(s, "pagetitle");
   if (row >= 0) {
-    MetaTagRow& entry = At(s.MetaTags, row);
+    state::MetaTagRow& entry = At(s.MetaTags, row);
     entry.MetaTagValue = s.TitleText;
     entry.MetaTagStart = text::SignedNumber(s.TitleStart);
     entry.MetaTagEnd = text::SignedNumber(s.TitleEnd);
@@ -243,7 +241,7 @@ int16_t Html_Decode_METATAG(AppState& s, const std::string& tagText, int16_t add
   int16_t handled = 0;
   // Every row is tried, even after a match: a second matching row skips one tag further.
   for (int16_t i = 0; i < s.MetaTagCount; ++i) {
-    MetaTagRow& row = At(s.MetaTags, i);
+    state::MetaTagRow& row = At(s.MetaTags, i);
     if (lower.find(row.MetaTagQuotedForm) == std::string::npos &&
         lower.find(row.MetaTagPlainForm) == std::string::npos)
       continue;

@@ -11,17 +11,6 @@ struct AppState;
 
 namespace zentrel::decode {
 
-struct DecoderFields {
-  int32_t HtmlStart = -1, HtmlEnd = -1;
-  int32_t HeadStart = -1, HeadEnd = -1;
-  int32_t BodyStart = -1, BodyEnd = -1;
-  int32_t TitleStart = 0;
-  int32_t TitleEnd = 0;
-  std::string TitleText;
-  std::string StrippedText;
-  int32_t StrippedTextPosition = 1;  // 1-based
-};
-
 void HTML_Decode_Document(AppState& s);
 void HTML_ReScan_Document(AppState& s);
 int16_t Html_Decode_TitleTag(AppState& s, const std::string& tagText, int16_t addToText);

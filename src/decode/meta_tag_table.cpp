@@ -1,8 +1,8 @@
 #include "decode/meta_tag_table.h"
 
-#include "app/app_state.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "state/app_state.h"
 
 namespace zentrel::decode {
 
@@ -11,7 +11,7 @@ namespace {
 constexpr int16_t kMetaTagCount = 15;
 constexpr int16_t kEditableMetaTagCount = 13;
 
-MetaTagRow* FindRow(AppState& s, const std::string& name) {
+state::MetaTagRow* FindRow(AppState& s, const std::string& name) {
   const int16_t i = Find_MetaTag_Index(s, name);
   return i < 0 ? nullptr : &At(s.MetaTags, i);
 }
@@ -40,7 +40,7 @@ void Init_MetaTag_Table(AppState& s) {
 }
 
 void Set_MetaTag_Entry(AppState& s, int16_t index, const std::string& name, int16_t isMeta) {
-  MetaTagRow& row = At(s.MetaTags, index);
+  state::MetaTagRow& row = At(s.MetaTags, index);
   row.MetaTagName = name;
   row.MetaTagQuotedForm = "name=\"" + name + "\"";
   row.MetaTagPlainForm = "name=" + name;
@@ -52,7 +52,7 @@ void Set_MetaTag_Entry(AppState& s, int16_t index, const std::string& name, int1
 
 void Clear_MetaTag_Values(AppState& s) {
   for (int16_t i = 0; i < s.MetaTagCount; ++i) {
-    MetaTagRow& row = At(s.MetaTags, i);
+    state::MetaTagRow& row = At(s.MetaTags, i);
     row.MetaTagValue.clear();
     row.MetaTagStart = "-1";
     row.MetaTagEnd = "-1";
@@ -68,7 +68,7 @@ int16_t Find_MetaTag_Index(const AppState& s, const std::string& name) {
 }
 
 void Set_MetaTag_Value(AppState& s, const std::string& name, const std::string& value) {
-  if (MetaTagRow* row = FindRow(s, name))
+  if (state::MetaTagRow* row = FindRow(s, name))
     row->MetaTagValue = value;
 }
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
-#include "app/app_state.h"
 #include "base/run_time_error.h"
+#include "state/app_state.h"
 
 namespace zentrel::decode {
 
@@ -100,10 +100,6 @@ int32_t Html_Copy_Section_To_Temp(AppState& s, int32_t from, int32_t to, int32_t
   if (to > last)
     RaiseSubscriptOutOfRange();
   return ToInt32(next);
-}
-
-int32_t Html_Dump_String(AppState& /*s*/, const std::string& /*text*/, int32_t /*destination*/) {
-  return 0;
 }
 
 }  // namespace zentrel::decode

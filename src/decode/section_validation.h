@@ -12,15 +12,10 @@ struct AppState;
 
 namespace zentrel::decode {
 
-struct SectionValidationFields {
-  std::vector<uint8_t> RebuildBytes;
-};
-
 // The first problem found, in the program's own words, or "" when the sections are in order.
 std::string HTML_VALIDATE_Document_Sections(const AppState& s);
 int32_t Html_Get_Starting_HeaderByte_For_Tag_Encoding(const AppState& s);
 int32_t Html_Get_Ending_HeaderByte_For_Tag_Encoding(const AppState& s);
 int32_t Html_Copy_Section_To_Temp(AppState& s, int32_t from, int32_t to, int32_t destination);
-int32_t Html_Dump_String(AppState& s, const std::string& text, int32_t destination);
 
 }  // namespace zentrel::decode

@@ -3,9 +3,10 @@
 #include <algorithm>
 #include <cstring>
 
-#include "app/app_state.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "document/document_cache.h"
+#include "state/app_state.h"
 
 namespace zentrel::document {
 
@@ -16,7 +17,6 @@ constexpr uint8_t kTagClose = '>';
 constexpr uint8_t kQuote = '"';
 constexpr uint8_t kSlash = '/';
 constexpr uint8_t kSpace = 32;
-constexpr int32_t kOriginalTagListStep = 50;
 
 bool EndsTagName(uint8_t b) {
   return b <= kSpace || b == kTagClose;
@@ -52,8 +52,8 @@ int32_t SearchClosing(const AppState& s, const std::string& closing, int64_t fro
   return -1;
 }
 
-ClosingTagMemo* FindMemo(AppState& s, const std::string& closing) {
-  for (ClosingTagMemo& memo : s.ClosingTagMemos) {
+state::ClosingTagMemo* FindMemo(AppState& s, const std::string& closing) {
+  for (state::ClosingTagMemo& memo : s.ClosingTagMemos) {
     if (memo.closing == closing)
       return &memo;
   }
@@ -62,7 +62,7 @@ ClosingTagMemo* FindMemo(AppState& s, const std::string& closing) {
 
 }  // namespace
 
-ClosingTagMemoScope::ClosingTagMemoScope(TagScannerFields& fields) : fields_(fields) {
+ClosingTagMemoScope::ClosingTagMemoScope(state::TagScannerFields& fields) : fields_(fields) {
   fields_.ClosingTagMemos.clear();
   fields_.ClosingTagMemoActive = true;
 }
@@ -72,23 +72,22 @@ ClosingTagMemoScope::~ClosingTagMemoScope() {
   fields_.ClosingTagMemos.clear();
 }
 
-void Add_Tag_Ignore(AppState& s, const std::string& openText, const std::string& closeText,
-                    int16_t kind) {
+void Add_Tag_Ignore(AppState& s, const std::string& openText, int16_t kind) {
   const int16_t i = s.TagListCount;
   At(s.TagOpenList, i) = openText;
-  At(s.TagCloseList, i) = closeText;
   At(s.TagKindList, i) = std::to_string(kind);
   s.TagListCount = ToInt16(i + 1);
 }
 
 void Build_Tag_list(AppState& s) {
-  Add_Tag_Ignore(s, "<meta", "</meta>", 1);
-  Add_Tag_Ignore(s, "<a", "</a>", 2);
-  Add_Tag_Ignore(s, "<script", "</script>", 2);
-  Add_Tag_Ignore(s, "<applet", "</applet>", 2);
-  Add_Tag_Ignore(s, "<?", "?>", 2);
-  Add_Tag_Ignore(s, "<?php", "?>", 2);
-  Add_Tag_Ignore(s, "<style", "<style>", 2);
+  // No closing texts are kept: Find_Closing_Html_Tag builds each from its opening text.
+  Add_Tag_Ignore(s, "<meta", 1);
+  Add_Tag_Ignore(s, "<a", 2);
+  Add_Tag_Ignore(s, "<script", 2);
+  Add_Tag_Ignore(s, "<applet", 2);
+  Add_Tag_Ignore(s, "<?", 2);
+  Add_Tag_Ignore(s, "<?php", 2);
+  Add_Tag_Ignore(s, "<style", 2);
 }
 
 int16_t Scan_Tag_List(const AppState& s, const std::string& tagText) {
@@ -182,7 +181,7 @@ int32_t Find_Closing_Html_Tag(AppState& s, const std::string& openText) {
     CacheByte(s, from);
     CacheByte(s, last + static_cast<int64_t>(closing.size()));
 
-    ClosingTagMemo* memo = s.ClosingTagMemoActive ? FindMemo(s, closing) : nullptr;
+    state::ClosingTagMemo* memo = s.ClosingTagMemoActive ? FindMemo(s, closing) : nullptr;
     if (memo != nullptr && memo->end == s.ScanEndPosition && memo->length == s.DocumentLength &&
         memo->from <= from && (memo->result < 0 || from <= memo->result)) {
       found = memo->result;
@@ -200,49 +199,6 @@ int32_t Find_Closing_Html_Tag(AppState& s, const std::string& openText) {
   if (found >= 0)
     s.ScanPosition = ToInt32(static_cast<int64_t>(found) + static_cast<int64_t>(closing.size()));
   return found;
-}
-
-std::string Get_Open_Html_String_NEW(const AppState& s, int32_t start) {
-  const auto length = static_cast<int64_t>(s.DocumentText.size());
-  if (start < 1 || start > length)
-    return {};
-  int64_t p = start;
-  // The text's last character is never examined.
-  while (p != length && !EndsTagName(static_cast<uint8_t>(s.DocumentText[p - 1])))
-    ++p;
-  return s.DocumentText.substr(static_cast<size_t>(start - 1), static_cast<size_t>(p - start));
-}
-
-std::string Get_This_Html_Variable_Tag2(AppState& s, int32_t start) {
-  std::string value;
-  if (start < 0 || start >= s.DocumentLength) {
-    s.ScanPosition = start;
-    return value;
-  }
-  int64_t p = start;
-  while (true) {
-    const uint8_t b = CacheByte(s, p);
-    if (b == kTagClose || p >= static_cast<int64_t>(s.DocumentLength) - 1) {
-      if (b != kTagClose)
-        value.push_back(static_cast<char>(b));
-      break;
-    }
-    value.push_back(static_cast<char>(b));
-    ++p;
-  }
-  s.ScanPosition = ToInt32(p + 1);
-  return value;
-}
-
-void Add_Tag_To_OriginalTagList(AppState& s, const std::string& text) {
-  if (s.OriginalTagListCount >= s.OriginalTagListCapacity) {
-    s.OriginalTagListCapacity =
-        ToInt32(static_cast<int64_t>(s.OriginalTagListCount) + kOriginalTagListStep);
-  }
-  if (s.OriginalTagList.size() < static_cast<size_t>(s.OriginalTagListCapacity))
-    s.OriginalTagList.resize(static_cast<size_t>(s.OriginalTagListCapacity));
-  s.OriginalTagList[static_cast<size_t>(s.OriginalTagListCount)] = text;
-  s.OriginalTagListCount = ToInt32(static_cast<int64_t>(s.OriginalTagListCount) + 1);
 }
 
 }  // namespace zentrel::document

@@ -2,23 +2,23 @@
 
 #include <initializer_list>
 
-#include "app/app_state.h"
 #include "base/text.h"
 #include "decode/meta_tag_table.h"
 #include "metatags/meta_tag_panel.h"
+#include "state/app_state.h"
 
 namespace zentrel::metatags {
 
 namespace {
 
-void Fill(app::DropDown& box, const std::string& initialText,
+void Fill(state::DropDown& box, const std::string& initialText,
           std::initializer_list<const char*> entries) {
   box.List.assign(entries.begin(), entries.end());
   box.Text = initialText;
 }
 
 // Numbers in the signed number form (" 10"), each followed by `unit`.
-void Fill_Numbers(app::DropDown& box, const std::string& initialText, int from, int to, int step,
+void Fill_Numbers(state::DropDown& box, const std::string& initialText, int from, int to, int step,
                   const std::string& unit) {
   box.List.clear();
   for (int n = from; n <= to; n += step)
@@ -33,7 +33,7 @@ void Set_Field(AppState& s, const std::string& name, const std::string& value) {
 }  // namespace
 
 void Set_Drop_Downs(AppState& s) {
-  app::FormModel& f = s.Form;
+  state::FormModel& f = s.Form;
   Fill(f.PageMetaTags_Rating_DropDown, "Select", {"general", "14 years", "mature", "restricted"});
   Fill(f.PageMetaTags_Robots_DropDown, "Select",
        {"index", "all", "none", "index,follow", "index,nofollow", "noindex,nofollow",
@@ -66,7 +66,7 @@ void PageMetaTags_RevisitAfter_DropDown_Click(AppState& s) {
 
 // The lists are not checked against each other: "31 February 2001" stands as picked.
 void PageMetaTags_Expires_SetDate_Click(AppState& s) {
-  const app::FormModel& f = s.Form;
+  const state::FormModel& f = s.Form;
   Set_Field(s, "expires",
             text::Trim(f.PageMetaTags_Expires_Day.Text) + " " + f.PageMetaTags_Expires_Month.Text +
                 " " + text::Trim(f.PageMetaTags_Expires_Year.Text));

@@ -1,11 +1,11 @@
 #include "metatags/meta_tag_panel.h"
 
-#include "app/app_state.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "decode/meta_tag_table.h"
 #include "metatags/page_encoder.h"
 #include "metatags/tag_list_file.h"
+#include "state/app_state.h"
 
 namespace zentrel::metatags {
 

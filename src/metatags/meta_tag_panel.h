@@ -12,12 +12,6 @@ struct AppState;
 
 namespace zentrel::metatags {
 
-inline constexpr int kClipSlotCount = 21;
-
-struct MetaTagPanelFields {
-  std::array<std::string, kClipSlotCount> metaTagClipSlots;
-};
-
 // Writes field i and runs MetaTag_TextBox_Change for it, whoever assigns the text.
 void Set_MetaTag_TextBox(AppState& s, int16_t i, const std::string& text);
 void Set_Metatag_Page_TextBoxes(AppState& s);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "app/app_state.h"
 #include "base/file_io.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
@@ -11,6 +10,7 @@
 #include "decode/meta_tag_table.h"
 #include "decode/section_validation.h"
 #include "document/document_cache.h"
+#include "state/app_state.h"
 
 namespace zentrel::metatags {
 
@@ -69,7 +69,7 @@ class TempFileRemover {
 // (of this or another page) left. Forgetting them first means only tags found now get blanked.
 void Forget_Recorded_Tag_Positions(AppState& s) {
   for (int16_t i = 0; i < s.MetaTagCount; ++i) {
-    decode::MetaTagRow& row = At(s.MetaTags, i);
+    state::MetaTagRow& row = At(s.MetaTags, i);
     row.MetaTagStart = "-1";
     row.MetaTagEnd = "-1";
   }
@@ -78,8 +78,8 @@ void Forget_Recorded_Tag_Positions(AppState& s) {
 std::string Build_Header_Block(AppState& s) {
   std::string block = "<TITLE>" + text::Trim(At(s.Form.MetaTag_TextBox, 0)) + "</TITLE>";
   block += text::kCrLf;
-  for (int16_t i = 0; i < app::kMetaTagFieldCount; ++i) {
-    const decode::MetaTagRow& row = At(s.MetaTags, i);
+  for (int16_t i = 0; i < state::kMetaTagFieldCount; ++i) {
+    const state::MetaTagRow& row = At(s.MetaTags, i);
     if (text::Val(row.MetaTagIsMeta) != 1)
       continue;
     std::string content = text::Trim(At(s.Form.MetaTag_TextBox, i));
@@ -102,7 +102,7 @@ void Blank_Old_Tags(AppState& s) {
   if (titleFound)
     document::Html_Clear_Cache_Section(s, s.TitleStart, s.TitleEnd + 1);
   for (int16_t i = 0; i < s.MetaTagCount; ++i) {
-    const decode::MetaTagRow& row = At(s.MetaTags, i);
+    const state::MetaTagRow& row = At(s.MetaTags, i);
     document::Html_Clear_Cache_Section(s, Position(row.MetaTagStart), Position(row.MetaTagEnd));
   }
 }
@@ -139,7 +139,7 @@ std::string Build_Meta_Tag(const AppState& s, const std::string& content, const 
 }
 
 bool HTML_ENCODE_Document(AppState& s, const std::string& fileName, int16_t rebuildFlag) {
-  app::BusyCursor busy(*s.platform);
+  state::BusyCursor busy(*s.platform);
   s.DocumentLength = document::Reload_File_From_Memory_TO_Cache(s);
   if (fileName.empty() || s.DocumentLength == 0)
     return false;

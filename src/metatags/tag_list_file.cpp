@@ -1,12 +1,12 @@
 #include "metatags/tag_list_file.h"
 
-#include "app/app_state.h"
 #include "app/preferences.h"
 #include "base/file_io.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "decode/meta_tag_table.h"
 #include "metatags/meta_tag_panel.h"
+#include "state/app_state.h"
 
 namespace zentrel::metatags {
 
@@ -21,7 +21,7 @@ constexpr const char* kComma = "&coma&";
 
 std::string MetaTag_List_Text(const AppState& s) {
   std::string out;
-  for (int16_t i = 0; i < app::kMetaTagFieldCount; ++i) {
+  for (int16_t i = 0; i < state::kMetaTagFieldCount; ++i) {
     if (At(s.Form.MetaTag_Selection_CheckBox, i) != 1)
       continue;
     std::string value = text::Trim(At(s.Form.MetaTag_TextBox, i));
@@ -50,14 +50,14 @@ void Apply_MetaTag_List_Text(AppState& s, const std::string& content) {
 }
 
 void Save_MetaTag_List(AppState& s) {
-  app::FileDialog dialog{"", kTagListFilter, 1, kTagListExtension};
+  state::FileDialog dialog{"", kTagListFilter, 1, kTagListExtension};
   if (!s.platform->ShowSave(dialog) || dialog.FileName.empty())
     return;
   file_io::WriteFileAtomic(dialog.FileName, MetaTag_List_Text(s), *s.files);
 }
 
 void Load_MetaTagList(AppState& s) {
-  app::FileDialog dialog{"", kTagListFilter, 1, kTagListExtension};
+  state::FileDialog dialog{"", kTagListFilter, 1, kTagListExtension};
   if (!s.platform->ShowOpen(dialog) || dialog.FileName.empty() ||
       !file_io::FileExists(dialog.FileName))
     return;

@@ -56,15 +56,15 @@ std::string cCommonDialog::PatternExtension(const std::string& filter, int index
   return ext.toStdString();
 }
 
-bool cCommonDialog::ShowOpen(app::FileDialog& dialog) {
+bool cCommonDialog::ShowOpen(state::FileDialog& dialog) {
   return Show(dialog, false);
 }
 
-bool cCommonDialog::ShowSave(app::FileDialog& dialog) {
+bool cCommonDialog::ShowSave(state::FileDialog& dialog) {
   return Show(dialog, true);
 }
 
-bool cCommonDialog::Show(app::FileDialog& dialog, bool save) {
+bool cCommonDialog::Show(state::FileDialog& dialog, bool save) {
   const QStringList names = NameFilters(dialog.Filter);
   QFileDialog box(owner_, save ? QStringLiteral("Save As") : QStringLiteral("Open"));
   box.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);

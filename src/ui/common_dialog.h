@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <string>
 
-#include "app/platform.h"
+#include "state/platform.h"
 
 class QWidget;
 
@@ -14,8 +14,8 @@ namespace zentrel::ui {
 class cCommonDialog {
  public:
   explicit cCommonDialog(QWidget* owner) : owner_(owner) {}
-  bool ShowOpen(app::FileDialog& dialog);
-  bool ShowSave(app::FileDialog& dialog);
+  bool ShowOpen(state::FileDialog& dialog);
+  bool ShowSave(state::FileDialog& dialog);
 
   // "(*.txt)|*.txt|(*.*)|*.*|" gives {"(*.txt)", "(*.*)"}; a description that does not name
   // its pattern gets it added ("Text|*.txt|" gives "Text (*.txt)").
@@ -24,7 +24,7 @@ class cCommonDialog {
   static std::string PatternExtension(const std::string& filter, int index);
 
  private:
-  bool Show(app::FileDialog& dialog, bool save);
+  bool Show(state::FileDialog& dialog, bool save);
   QWidget* owner_;
 };
 

@@ -31,7 +31,7 @@ QCheckBox* MakeCheck(View& v, QWidget* parent, const char* name, const char* cap
   return w;
 }
 
-QComboBox* MakeCombo(View& v, QWidget* parent, const char* name, app::DropDown* field, int chars,
+QComboBox* MakeCombo(View& v, QWidget* parent, const char* name, state::DropDown* field, int chars,
                      bool dispatch) {
   auto* w = new QComboBox(parent);
   w->setObjectName(QString::fromLatin1(name));

@@ -36,7 +36,7 @@ QCheckBox* MakeCheck(View& v, QWidget* parent, const char* name, const char* cap
                      int16_t* field, bool dispatch = true);
 // A drop-down whose pick runs its handler (dispatch) or is only read by others; wide enough
 // for the given number of characters.
-QComboBox* MakeCombo(View& v, QWidget* parent, const char* name, app::DropDown* field, int chars,
+QComboBox* MakeCombo(View& v, QWidget* parent, const char* name, state::DropDown* field, int chars,
                      bool dispatch = true);
 QLineEdit* MakeLineEdit(View& v, QWidget* parent, const std::string& name, std::string* field,
                         FormBinding::Setter setter = {}, TextKind kind = TextKind::Page);

@@ -8,12 +8,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "app/app_state.h"
+#include "state/app_state.h"
 
 namespace zentrel::ui {
 
 EditPageTab::EditPageTab(View& v, QWidget* parent) : QWidget(parent) {
-  app::FormModel& f = v.s.Form;
+  state::FormModel& f = v.s.Form;
   auto* layout = new QVBoxLayout(this);
   auto* top = new QHBoxLayout;
   top->addWidget(MakeLabel(this, QStringLiteral("Find")));

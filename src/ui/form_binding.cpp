@@ -14,7 +14,7 @@
 #include <QTextDocument>
 #include <memory>
 
-#include "app/app_state.h"
+#include "state/app_state.h"
 
 namespace zentrel::ui {
 
@@ -240,7 +240,7 @@ void FormBinding::CheckBox(QCheckBox* w, int16_t* field) {
                       }});
 }
 
-void FormBinding::ComboBox(QComboBox* w, app::DropDown* field) {
+void FormBinding::ComboBox(QComboBox* w, state::DropDown* field) {
   struct State {
     std::vector<std::string> list;
     Shown text;
@@ -296,7 +296,7 @@ void FormBinding::ToolTip(QWidget* w, const std::string* field) {
   ShowOnly(field, [w](const QString& text) { w->setToolTip(text); });
 }
 
-void FormBinding::Menu(QAction* a, const app::MenuEntry* entry) {
+void FormBinding::Menu(QAction* a, const state::MenuEntry* entry) {
   entries_.push_back({[] {},
                       [a, entry] {
                         if (!entry->Caption.empty())

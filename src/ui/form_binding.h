@@ -11,7 +11,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "app/form_model.h"
+#include "state/form_model.h"
 #include "ui/text_codec.h"
 
 class QAction;
@@ -48,10 +48,10 @@ class FormBinding {
   void TextArea(QPlainTextEdit* w, std::string* field);
   void Selection(QPlainTextEdit* w, const std::string* text, int32_t* start, int32_t* length);
   void CheckBox(QCheckBox* w, int16_t* field);
-  void ComboBox(QComboBox* w, app::DropDown* field);
+  void ComboBox(QComboBox* w, state::DropDown* field);
   void Label(QLabel* w, const std::string* field);
   void ToolTip(QWidget* w, const std::string* field);
-  void Menu(QAction* a, const app::MenuEntry* entry);
+  void Menu(QAction* a, const state::MenuEntry* entry);
   void WindowTitle(QWidget* w, const std::string* field);
   void Tabs(QTabWidget* w, int16_t* field);
 

@@ -25,7 +25,7 @@
 
 namespace zentrel::ui {
 
-MainWindow::MainWindow(app::Platform& platform, QWidget* parent)
+MainWindow::MainWindow(state::Platform& platform, QWidget* parent)
     : QMainWindow(parent),
       s_(platform),
       bind_(s_),
@@ -57,7 +57,7 @@ void MainWindow::BuildTabs() {
 }
 
 void MainWindow::BuildMenus() {
-  app::FormModel& f = s_.Form;
+  state::FormModel& f = s_.Form;
   auto command = [this](QMenu* menu, const char* name, const QString& caption) {
     QAction* a = menu->addAction(caption);
     a->setObjectName(QString::fromLatin1(name));
@@ -116,7 +116,7 @@ void MainWindow::BuildMenus() {
 }
 
 void MainWindow::PlaceWindow() {
-  app::FormModel& f = s_.Form;
+  state::FormModel& f = s_.Form;
   QRect screen(0, 0, 1024, 768);
   if (const QScreen* primary = QGuiApplication::primaryScreen())
     screen = primary->availableGeometry();

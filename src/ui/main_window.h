@@ -7,7 +7,7 @@
 #include <functional>
 #include <string>
 
-#include "app/app_state.h"
+#include "state/app_state.h"
 #include "ui/controls.h"
 #include "ui/form_binding.h"
 
@@ -22,7 +22,7 @@ class Frm_SplashScreen;
 
 class MainWindow : public QMainWindow {
  public:
-  explicit MainWindow(app::Platform& platform, QWidget* parent = nullptr);
+  explicit MainWindow(state::Platform& platform, QWidget* parent = nullptr);
   ~MainWindow() override;
 
   // Runs the named control's handler as a click on it does.

@@ -12,14 +12,14 @@
 #include <QVBoxLayout>
 #include <array>
 
-#include "app/app_state.h"
 #include "metatags/meta_tag_panel.h"
+#include "state/app_state.h"
 
 namespace zentrel::ui {
 
 namespace {
 
-constexpr std::array<const char*, app::kMetaTagFieldCount> kLabels = {
+constexpr std::array<const char*, state::kMetaTagFieldCount> kLabels = {
     "Page Title",    "Description",  "Abstract",  "Keywords", "Generator",
     "Program ID",    "Author",       "Copyright", "Rating",   "Robots",
     "Revisit After", "Distribution", "Expires"};
@@ -31,12 +31,12 @@ constexpr int kRating = 8, kRobots = 9, kRevisitAfter = 10, kDistribution = 11;
 }  // namespace
 
 MetaTagsTab::MetaTagsTab(View& v, QWidget* parent) : QWidget(parent) {
-  app::FormModel& f = v.s.Form;
+  state::FormModel& f = v.s.Form;
   auto* layout = new QHBoxLayout(this);
 
   auto* grid = new QGridLayout;
   grid->setColumnStretch(2, 1);
-  for (int i = 0; i < app::kMetaTagFieldCount; ++i) {
+  for (int i = 0; i < state::kMetaTagFieldCount; ++i) {
     const auto index = static_cast<std::size_t>(i);
     const std::string suffix = "_" + std::to_string(i);
     auto* mark = MakeCheck(v, this, ("MetaTag_Selection_CheckBox" + suffix).c_str(), "",
@@ -76,15 +76,15 @@ MetaTagsTab::MetaTagsTab(View& v, QWidget* parent) : QWidget(parent) {
   date->addWidget(MakeButton(v, this, "PageMetaTags_Expires_SetDate", "Set Date"));
   date->addStretch();
   date->insertWidget(0, MakeLabel(this, QStringLiteral("Expiry date")));
-  grid->addLayout(date, app::kMetaTagFieldCount, 2, 1, 2);
+  grid->addLayout(date, state::kMetaTagFieldCount, 2, 1, 2);
   auto* hint = MakeLabel(
       this, QStringLiteral("Tick the boxes on the left to mark fields; the buttons on the "
                            "right act on all fields or on the marked ones. Rebuild Page "
                            "writes the fields into the page on \"Edit Page\"; the save "
                            "button writes it over the loaded file."));
   hint->setWordWrap(true);
-  grid->addWidget(hint, app::kMetaTagFieldCount + 1, 1, 1, 3);
-  grid->setRowStretch(app::kMetaTagFieldCount + 2, 1);
+  grid->addWidget(hint, state::kMetaTagFieldCount + 1, 1, 1, 3);
+  grid->setRowStretch(state::kMetaTagFieldCount + 2, 1);
   layout->addLayout(grid, 1);
 
   auto* buttons = new QVBoxLayout;

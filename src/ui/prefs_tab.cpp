@@ -12,7 +12,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "app/app_state.h"
+#include "state/app_state.h"
 #include "words/dictionary_commands.h"
 
 namespace zentrel::ui {
@@ -20,7 +20,7 @@ namespace zentrel::ui {
 namespace {
 
 QGroupBox* FilterDictionary(View& v, QWidget* parent) {
-  app::FormModel& f = v.s.Form;
+  state::FormModel& f = v.s.Form;
   auto* box = new QGroupBox(QStringLiteral("Filter Dictionary"), parent);
   box->setObjectName(QStringLiteral("Filter_Dictionary_Frame"));
   auto* layout = new QVBoxLayout(box);
@@ -69,7 +69,7 @@ QGroupBox* FilterDictionary(View& v, QWidget* parent) {
 }
 
 QGroupBox* DecoderPrefs(View& v, QWidget* parent) {
-  app::FormModel& f = v.s.Form;
+  state::FormModel& f = v.s.Form;
   auto* box = new QGroupBox(QStringLiteral("HTML Decoder Prefs"), parent);
   box->setObjectName(QStringLiteral("HtmlDecodePref_Frame"));
   auto* layout = new QVBoxLayout(box);
@@ -97,7 +97,7 @@ QGroupBox* DecoderPrefs(View& v, QWidget* parent) {
 }
 
 QGroupBox* EncoderPrefs(View& v, QWidget* parent) {
-  app::FormModel& f = v.s.Form;
+  state::FormModel& f = v.s.Form;
   auto* box = new QGroupBox(QStringLiteral("HTML Encoder Prefs"), parent);
   box->setObjectName(QStringLiteral("MetaTagEncodePref_Frame"));
   auto* layout = new QVBoxLayout(box);

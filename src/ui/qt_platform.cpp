@@ -12,11 +12,11 @@
 
 namespace zentrel::ui {
 
-bool QtPlatform::ShowOpen(app::FileDialog& dialog) {
+bool QtPlatform::ShowOpen(state::FileDialog& dialog) {
   return cCommonDialog(owner_).ShowOpen(dialog);
 }
 
-bool QtPlatform::ShowSave(app::FileDialog& dialog) {
+bool QtPlatform::ShowSave(state::FileDialog& dialog) {
   return cCommonDialog(owner_).ShowSave(dialog);
 }
 

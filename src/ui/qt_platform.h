@@ -1,20 +1,20 @@
 #pragma once
 // The Platform of the desktop program: Qt's dialogs, message boxes, busy pointer and events.
 
-#include "app/platform.h"
+#include "state/platform.h"
 #include "ui/common_dialog.h"
 
 class QWidget;
 
 namespace zentrel::ui {
 
-class QtPlatform : public app::Platform {
+class QtPlatform : public state::Platform {
  public:
   // Dialogs and message boxes are owned by this window (set once the window exists).
   void SetOwner(QWidget* owner) { owner_ = owner; }
 
-  bool ShowOpen(app::FileDialog& dialog) override;
-  bool ShowSave(app::FileDialog& dialog) override;
+  bool ShowOpen(state::FileDialog& dialog) override;
+  bool ShowSave(state::FileDialog& dialog) override;
   bool AskYesNo(const std::string& title, const std::string& text) override;
   void ShowMessage(const std::string& text) override;
   void BeginBusy() override;

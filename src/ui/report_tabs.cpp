@@ -6,12 +6,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "app/app_state.h"
+#include "state/app_state.h"
 
 namespace zentrel::ui {
 
 ViewBodyTab::ViewBodyTab(View& v, QWidget* parent) : QWidget(parent) {
-  app::FormModel& f = v.s.Form;
+  state::FormModel& f = v.s.Form;
   auto* layout = new QVBoxLayout(this);
   auto* top = new QHBoxLayout;
   top->addWidget(MakeButton(v, this, "ViewBody_SaveAs", "Save Body As"));
@@ -29,7 +29,7 @@ ViewBodyTab::ViewBodyTab(View& v, QWidget* parent) : QWidget(parent) {
 }
 
 PageReportTab::PageReportTab(View& v, QWidget* parent) : QWidget(parent) {
-  app::FormModel& f = v.s.Form;
+  state::FormModel& f = v.s.Form;
   auto* layout = new QVBoxLayout(this);
   auto* top = new QHBoxLayout;
   top->addWidget(MakeButton(v, this, "PageReport_SAVEAS", "Save Report As"));

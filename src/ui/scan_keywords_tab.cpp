@@ -12,7 +12,7 @@
 #include <QVBoxLayout>
 
 #include "analysis/report_export.h"
-#include "app/app_state.h"
+#include "state/app_state.h"
 
 namespace zentrel::ui {
 
@@ -33,7 +33,7 @@ QWidget* ResultBox(View& v, QWidget* parent, const char* title, const char* name
 }  // namespace
 
 ScanKeywordsTab::ScanKeywordsTab(View& v, QWidget* parent) : QWidget(parent) {
-  app::FormModel& f = v.s.Form;
+  state::FormModel& f = v.s.Form;
   auto* layout = new QVBoxLayout(this);
 
   auto* top = new QHBoxLayout;

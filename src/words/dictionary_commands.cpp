@@ -1,10 +1,10 @@
 #include "words/dictionary_commands.h"
 
-#include "app/app_state.h"
 #include "app/page_loading.h"
 #include "app/page_saving.h"
 #include "app/startup.h"
 #include "base/text.h"
+#include "state/app_state.h"
 #include "words/filter_dictionary.h"
 
 namespace zentrel::words {

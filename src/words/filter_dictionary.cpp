@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <string_view>
 
-#include "app/app_state.h"
 #include "base/file_io.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "state/app_state.h"
 
 namespace zentrel::words {
 
@@ -62,7 +62,6 @@ void Resort_And_Removed_Doubles_From_Filter_Dictionary(AppState& s) {
   }
   Sort_Filter_Word_Dictionary(s);
   Remove_Doubles_Filter_Word_Dictionary(s);
-  Build_Filter_AlphaBet_Range_Pointers(s, ToInt16(int32_t{s.FilterCount} - 1));
   SetWordFilter_TextBoxes(s);
 }
 
@@ -80,10 +79,8 @@ void Add_Word_Filter(AppState& s, const std::string& word) {
 void Sort_Filter_Word_Dictionary(AppState& s) {
   // Ordinal order: the first character's code decides, then the rest of the word code by
   // code, which is what a sort by first letter followed by a sort within each letter gives.
-  s.FilterSortScratch.assign(static_cast<size_t>(s.FilterCount) + 1, std::string());
   CheckIndex(s.FilterCount, 0, static_cast<int64_t>(s.FilterWords.size()));
   std::sort(s.FilterWords.begin(), s.FilterWords.begin() + s.FilterCount);
-  Build_Filter_AlphaBet_Range_Pointers(s, ToInt16(int32_t{s.FilterCount} - 1));
 }
 
 void Remove_Doubles_Filter_Word_Dictionary(AppState& s) {
@@ -106,24 +103,11 @@ void Remove_Doubles_Filter_Word_Dictionary(AppState& s) {
   s.FilterCount = ToInt16(o);
 }
 
-void Build_Filter_AlphaBet_Range_Pointers(AppState& s, int16_t lastIndex) {
-  s.FilterFirstIndex.fill(kNoFilterIndex);
-  s.FilterLastIndex.fill(kNoFilterIndex);
-  for (int32_t i = 0; i <= lastIndex; ++i) {
-    const std::string& word = At(s.FilterWords, i);
-    const unsigned char c = word.empty() ? 0 : static_cast<unsigned char>(word[0]);
-    if (s.FilterFirstIndex[c] == kNoFilterIndex)
-      s.FilterFirstIndex[c] = static_cast<uint16_t>(i);
-    s.FilterLastIndex[c] = static_cast<uint16_t>(i);
-  }
-}
-
 void Build_Filter_Word_Dictionary(AppState& s) {
   s.FilterCapacity = kFilterWordsStart;
   AllocateFilterWords(s);
   Load_Word_Filter_Dictionary(s, Standard_Dictionary_Path(s), "");
   Resort_And_Removed_Doubles_From_Filter_Dictionary(s);
-  Build_Filter_AlphaBet_Range_Pointers(s, ToInt16(int32_t{s.FilterCount} - 1));
   SetWordFilter_TextBoxes(s);
 }
 

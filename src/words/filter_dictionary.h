@@ -15,17 +15,6 @@ namespace zentrel::words {
 
 inline constexpr int16_t kFilterWordsStart = 1000;
 inline constexpr int16_t kFilterWordsStep = 500;
-inline constexpr uint16_t kNoFilterIndex = 65535;
-
-struct FilterDictionaryFields {
-  std::vector<std::string> FilterWords;  // indexes 0..FilterCapacity
-  int16_t FilterCount = 0;
-  int16_t FilterCapacity = 0;
-  std::vector<std::string> FilterSortScratch;
-  std::array<uint16_t, 256> FilterFirstIndex{};
-  std::array<uint16_t, 256> FilterLastIndex{};
-  std::string FilterWordsText;  // " w1 w2 ... wn  "
-};
 
 // "dictionary/Zentrel_Standard.txt" under the program folder (kept as written: the file system
 // is case-sensitive).
@@ -37,7 +26,6 @@ void Resort_And_Removed_Doubles_From_Filter_Dictionary(AppState& s);
 void Add_Word_Filter(AppState& s, const std::string& word);
 void Sort_Filter_Word_Dictionary(AppState& s);
 void Remove_Doubles_Filter_Word_Dictionary(AppState& s);
-void Build_Filter_AlphaBet_Range_Pointers(AppState& s, int16_t lastIndex);
 void Build_Filter_Word_Dictionary(AppState& s);
 void Load_Default_Word_Filters(AppState& s, const std::string& path);
 void SetWordFilter_TextBoxes(AppState& s);

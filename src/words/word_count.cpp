@@ -7,9 +7,9 @@
 #include <string_view>
 #include <unordered_set>
 
-#include "app/app_state.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "state/app_state.h"
 #include "words/word_extraction.h"
 
 namespace zentrel::words {
@@ -48,36 +48,30 @@ bool HasNonLetter(const AppState& s, std::string_view w) {
   return false;
 }
 
-// Both word-list arrays grow together; the capacity is their highest index.
+// The capacity is the list's highest index.
 void GrowDocumentWords(AppState& s) {
   s.DocumentWordsCapacity = ToInt32(int64_t{s.DocumentWordsCapacity} + kDocumentWordsStep);
-  const size_t size = static_cast<size_t>(s.DocumentWordsCapacity) + 1;
-  s.DocumentWords.Resize(size);
-  s.DocumentWordsUpper.Resize(size);
+  s.DocumentWords.Resize(static_cast<size_t>(s.DocumentWordsCapacity) + 1);
 }
 
 void ResizeDictionary(AppState& s) {
   const size_t size = static_cast<size_t>(s.UniqueWordsCapacity) + 1;
   s.UniqueWords.resize(size);
   s.UniqueWordCounts.resize(size, 0);
-  s.UniqueWordValues.resize(size, 0);
 }
 
-// Stores the word (lower-cased first when `lower`) and its upper-case form at index count.
+// Stores the word (lower-cased first when `lower`) at index count.
 void AppendToWordList(AppState& s, std::string_view word, bool lower) {
   if (s.DocumentWordCount == s.DocumentWordsCapacity ||
       static_cast<size_t>(s.DocumentWordCount) >= s.DocumentWords.size())
     GrowDocumentWords(s);
   const auto at = static_cast<size_t>(s.DocumentWordCount);
   CheckIndex(s.DocumentWordCount, 0, static_cast<int64_t>(s.DocumentWords.size()) - 1);
-  // The lists are appended to; a count set back or forth by hand moves the end there.
-  for (WordList* list : {&s.DocumentWords, &s.DocumentWordsUpper}) {
-    list->Truncate(at);
-    while (list->Stored() < at)
-      list->Append({});
-  }
-  s.DocumentWords.Append(word, lower ? WordList::Fold::Lower : WordList::Fold::None);
-  s.DocumentWordsUpper.Append(word, WordList::Fold::Upper);
+  // The list is appended to; a count set back or forth by hand moves the end there.
+  s.DocumentWords.Truncate(at);
+  while (s.DocumentWords.Stored() < at)
+    s.DocumentWords.Append({});
+  s.DocumentWords.Append(word, lower ? state::WordList::Fold::Lower : state::WordList::Fold::None);
   s.DocumentWordCount = ToInt32(int64_t{s.DocumentWordCount} + 1);
 }
 
@@ -213,75 +207,10 @@ class SpellingTable {
 
 }  // namespace
 
-WordList& WordList::operator=(const std::vector<std::string>& words) {
-  Reset(words.size());
-  for (const std::string& w : words)
-    Append(w);
-  return *this;
-}
-
-std::string WordList::Join(size_t count, std::string_view separator) const {
-  if (count == 0)
-    return {};
-  const size_t stored = std::min(count, ends_.size());
-  const size_t chars = stored == 0 ? 0 : ends_[stored - 1];
-  std::string out(chars + (count - 1) * separator.size(), '\0');
-  // Byte loops rather than a copy call per word: the words are short and many.
-  char* o = out.data();
-  const char* c = chars_.data();
-  for (size_t k = 0; k < count; ++k) {
-    if (k > 0) {
-      for (const char s : separator)
-        *o++ = s;
-    }
-    if (k < stored) {
-      for (const char* end = chars_.data() + ends_[k]; c != end; ++c)
-        *o++ = *c;
-    }
-  }
-  return out;
-}
-
-void WordList::Reset(size_t count) {
-  chars_.clear();
-  ends_.clear();
-  slots_ = count;
-}
-
-void WordList::Truncate(size_t words) {
-  if (words >= ends_.size())
-    return;
-  ends_.resize(words);
-  chars_.resize(words == 0 ? 0 : ends_.back());
-}
-
-void WordList::ReserveMore(size_t words, size_t chars) {
-  ends_.reserve(ends_.size() + words);
-  chars_.reserve(chars_.size() + chars);
-}
-
-void WordList::Append(std::string_view word, Fold fold) {
-  const size_t at = chars_.size();
-  if (at + word.size() > UINT32_MAX)
-    RaiseOverflow();
-  chars_.append(word);
-  if (fold == Fold::Lower) {
-    for (size_t i = at; i < chars_.size(); ++i)
-      chars_[i] = text::LowerAscii(chars_[i]);
-  } else if (fold == Fold::Upper) {
-    for (size_t i = at; i < chars_.size(); ++i)
-      chars_[i] = text::UpperAscii(chars_[i]);
-  }
-  ends_.push_back(static_cast<uint32_t>(chars_.size()));
-  if (ends_.size() > slots_)
-    slots_ = ends_.size();
-}
-
 void Init_Document_Word_Dictionary(AppState& s) {
   s.UniqueWordsCapacity = kUniqueWordsStart;
   s.UniqueWords.assign(static_cast<size_t>(kUniqueWordsStart) + 1, std::string());
   s.UniqueWordCounts.assign(static_cast<size_t>(kUniqueWordsStart) + 1, 0);
-  s.UniqueWordValues.assign(static_cast<size_t>(kUniqueWordsStart) + 1, 0);
   s.UniqueWordCount = 0;
   s.UniqueWordIndex.clear();
 }
@@ -289,7 +218,6 @@ void Init_Document_Word_Dictionary(AppState& s) {
 void Init_Document_Word_List(AppState& s) {
   s.DocumentWordsCapacity = kDocumentWordsStart;
   s.DocumentWords.Reset(static_cast<size_t>(kDocumentWordsStart) + 1);
-  s.DocumentWordsUpper.Reset(static_cast<size_t>(kDocumentWordsStart) + 1);
   s.DocumentWordCount = 0;
 }
 
@@ -306,7 +234,6 @@ void Word_Count_Stripped_Text(AppState& s) {
   // the text's end), so this is all the room the lists can need; room never written to costs
   // no memory.
   s.DocumentWords.ReserveMore(length / 3 + 1, length);
-  s.DocumentWordsUpper.ReserveMore(length / 3 + 1, length);
 
   SpellingTable spellings(text);
   std::string folded;
@@ -389,13 +316,11 @@ void Sort_Word_Strings(AppState& s) {
   const size_t n = static_cast<size_t>(entries) + 1;
   std::vector<std::string> sortWords(n);
   std::vector<int16_t> sortCounts(n, 0);
-  std::vector<int32_t> sortValues(n, 0);
   for (int32_t i = 0; i <= entries; ++i) {
     const size_t from = static_cast<size_t>(i);
     const size_t p = static_cast<size_t>(bucket[static_cast<size_t>(s.UniqueWordCounts[from])]++);
     sortWords[p] = std::move(s.UniqueWords[from]);
     sortCounts[p] = s.UniqueWordCounts[from];
-    sortValues[p] = s.UniqueWordValues[from];
   }
   // The copy back runs in reverse: most occurrences first, and among equals the word first
   // seen later in the page comes first.
@@ -404,7 +329,6 @@ void Sort_Word_Strings(AppState& s) {
     const size_t from = static_cast<size_t>(j);
     s.UniqueWords[k] = std::move(sortWords[from]);
     s.UniqueWordCounts[k] = sortCounts[from];
-    s.UniqueWordValues[k] = sortValues[from];
   }
   s.UniqueWordIndex.clear();  // rebuilt when a word is next counted
 }

@@ -1,8 +1,8 @@
 #include "words/word_extraction.h"
 
-#include "app/app_state.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "state/app_state.h"
 
 namespace zentrel::words {
 

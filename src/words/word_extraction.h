@@ -12,13 +12,6 @@ struct AppState;
 
 namespace zentrel::words {
 
-inline constexpr int kSplitListSize = 1001;
-
-struct WordExtractionFields {
-  std::array<int16_t, 257> Get_Word_String_Chr_Table{};  // 1: the code ends a word
-  std::array<std::string, kSplitListSize> Split_String_List;
-};
-
 void Init_Get_word_string_Chr_table(AppState& s);
 // The word that starts at 1-based position start of StrippedText.
 std::string Get_Word_String(const AppState& s, int32_t start);

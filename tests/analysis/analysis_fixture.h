@@ -7,11 +7,11 @@
 #include "../app/shell_program_folder.h"
 #include "analysis/analysis_driver.h"
 #include "analysis/keyword_list.h"
-#include "app/app_state.h"
 #include "app/startup.h"
 #include "base/run_time_error.h"
 #include "document/document_cache.h"
 #include "fake_platform.h"
+#include "state/app_state.h"
 #include "test_files.h"
 #include "words/word_count.h"
 

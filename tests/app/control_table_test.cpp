@@ -7,10 +7,10 @@
 #include <new>
 #include <set>
 
-#include "app/app_state.h"
 #include "app/startup.h"
 #include "fake_platform.h"
 #include "shell_program_folder.h"
+#include "state/app_state.h"
 
 namespace zentrel::app {
 namespace {
@@ -19,8 +19,8 @@ namespace {
 class CancellingPlatform : public testing::FakePlatform {
  public:
   using FakePlatform::FakePlatform;
-  bool ShowOpen(FileDialog&) override { return false; }
-  bool ShowSave(FileDialog&) override { return false; }
+  bool ShowOpen(state::FileDialog&) override { return false; }
+  bool ShowSave(state::FileDialog&) override { return false; }
   bool AskYesNo(const std::string&, const std::string&) override { return false; }
 };
 

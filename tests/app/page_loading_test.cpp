@@ -7,11 +7,11 @@
 
 #include <filesystem>
 
-#include "app/app_state.h"
 #include "app/control_table.h"
 #include "app/startup.h"
 #include "fake_platform.h"
 #include "shell_program_folder.h"
+#include "state/app_state.h"
 #include "test_files.h"
 
 namespace zentrel::app {
@@ -41,7 +41,7 @@ TEST(Do_Load_File, LoadsTheChosenPageAndPutsItFirstInTheMenu) {
   t.s.DefaultFileExtension = ".txt";
   t.platform.AnswerOpen(path, 1, ".html");
   Command1_Click(t.s);
-  const FileDialog& shown = t.platform.dialogs.at(0);
+  const state::FileDialog& shown = t.platform.dialogs.at(0);
   EXPECT_EQ(shown.Filter, "(*.html)|*.html|(*.htm)|*.htm|(*.txt)|*.txt|(*.*)|*.*|");
   EXPECT_EQ(shown.FileName, "");
   EXPECT_EQ(shown.FilterIndex, 3);

@@ -28,7 +28,7 @@ TEST(Do_save, SavesUnderTheNewNameAndMakesItTheCurrentDocument) {
   metatags::Set_MetaTag_TextBox(page.s, 0, "Saved");
   page.platform.AnswerSave(newPath, 1, ".html");
   mnu_File_SAVESA_Click(page.s);
-  const FileDialog& shown = page.platform.dialogs.at(0);
+  const state::FileDialog& shown = page.platform.dialogs.at(0);
   EXPECT_EQ(shown.FileName, oldPath);
   EXPECT_EQ(shown.Filter, "(*.html)|*.html|(*.htm)|*.htm|(*.txt)|*.txt|(*.*)|*.*|");
   EXPECT_EQ(shown.FilterIndex, 2);

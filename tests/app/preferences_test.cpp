@@ -4,9 +4,9 @@
 
 #include <filesystem>
 
-#include "app/app_state.h"
 #include "fake_platform.h"
 #include "full_disk.h"
+#include "state/app_state.h"
 #include "test_files.h"
 
 namespace zentrel::app {

@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include "app/app_state.h"
 #include "app/control_table.h"
 #include "fake_platform.h"
+#include "state/app_state.h"
 
 namespace zentrel::app {
 namespace {

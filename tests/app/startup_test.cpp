@@ -4,11 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include "app/app_state.h"
 #include "app/control_table.h"
 #include "app/page_loading.h"
 #include "fake_platform.h"
 #include "shell_program_folder.h"
+#include "state/app_state.h"
 #include "test_files.h"
 #include "words/dictionary_commands.h"
 
@@ -43,7 +43,7 @@ TEST(Form_Load, WithoutPreferencesEverySettingIsItsDefault) {
   EXPECT_EQ(s.Form.Caption, "   Zentrel V1.62");
   EXPECT_EQ(Kept_Settings(s), "1;1;1;0;1;1;0;1;0;1;0;.htm;2;\"#=<>^()[]{}/.,;:+-_*&!?@%;;");
   EXPECT_EQ(s.Form.HtmlDecodePref_WordDecodeStopCHR_TextBox, s.WordDelimiterChars);
-  const DropDown& minMatches = s.Form.KeyWords_MinKeyWordMatches_DropDown;
+  const state::DropDown& minMatches = s.Form.KeyWords_MinKeyWordMatches_DropDown;
   ASSERT_EQ(minMatches.List.size(), 99u);
   EXPECT_EQ(minMatches.List[98], " 99 Matches");
   EXPECT_EQ(minMatches.Text, " 1 Match");

@@ -4,10 +4,10 @@
 
 #include <string>
 
-#include "app/app_state.h"
 #include "decode/meta_tag_table.h"
 #include "document/tag_scanner.h"
 #include "fake_platform.h"
+#include "state/app_state.h"
 
 namespace zentrel::testing {
 
@@ -32,7 +32,7 @@ struct DecodeState {
     s.DocumentLength = static_cast<int32_t>(page.size());
   }
 
-  const decode::MetaTagRow& Row(const std::string& name) const {
+  const state::MetaTagRow& Row(const std::string& name) const {
     return s.MetaTags.at(static_cast<size_t>(decode::Find_MetaTag_Index(s, name)));
   }
 };

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "base/run_time_error.h"
+
 #include "decode_fixture.h"
 
 namespace zentrel::decode {

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "app/app_state.h"
 #include "base/file_io.h"
 #include "fake_platform.h"
+#include "state/app_state.h"
 #include "test_files.h"
 
 namespace zentrel::document {

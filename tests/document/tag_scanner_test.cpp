@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "app/app_state.h"
+#include "base/run_time_error.h"
+
 #include "fake_platform.h"
+#include "state/app_state.h"
 
 namespace zentrel::document {
 namespace {
@@ -27,8 +29,8 @@ TEST(Scan_Tag_List, MatchesWholeOpeningTextsIgnoringCase) {
   for (const auto& [tag, kind] : kinds)
     EXPECT_EQ(Scan_Tag_List(t.s, tag), kind) << tag;
   for (int i = t.s.TagListCount; i <= 500; ++i)
-    Add_Tag_Ignore(t.s, "<x", "", 3);
-  EXPECT_THROW(Add_Tag_Ignore(t.s, "<y", "", 1), RunTimeError);
+    Add_Tag_Ignore(t.s, "<x", 3);
+  EXPECT_THROW(Add_Tag_Ignore(t.s, "<y", 1), RunTimeError);
 }
 
 TEST(Find_Close_Of_This_Html_Tag, QuotesShieldTheTagEndOnlyHere) {

@@ -13,7 +13,7 @@
 namespace zentrel::fuzz {
 
 AppState& Started_State() {
-  static app::SilentPlatform platform;
+  static state::SilentPlatform platform;
   static const AppState started = [] {
     AppState s(platform);
     app::Form_Load(s);

@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <string>
 
-#include "app/app_state.h"
-#include "app/silent_platform.h"
+#include "state/app_state.h"
+#include "state/silent_platform.h"
 
 namespace zentrel::fuzz {
 

@@ -14,12 +14,12 @@
 #include <iostream>
 #include <optional>
 
-#include "app/app_state.h"
 #include "app/control_table.h"
 #include "app/preferences.h"
 #include "app/startup.h"
 #include "fake_platform.h"
 #include "heavy_inputs.h"
+#include "state/app_state.h"
 #include "test_files.h"
 
 namespace zentrel {

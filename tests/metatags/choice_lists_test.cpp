@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "app/app_state.h"
 #include "decode/meta_tag_table.h"
 #include "fake_platform.h"
+#include "state/app_state.h"
 
 namespace zentrel::metatags {
 namespace {
@@ -14,7 +14,7 @@ using List = std::vector<std::string>;
 struct Panel {
   testing::FakePlatform platform;
   AppState s{platform};
-  app::FormModel& f = s.Form;
+  state::FormModel& f = s.Form;
   Panel() {
     decode::Init_MetaTag_Table(s);
     s.DefaultFileExtension = ".txt";
@@ -38,7 +38,7 @@ TEST(Set_Drop_Downs, FillsEveryListAndResetsThePicks) {
   EXPECT_EQ(p.f.PageMetaTags_Expires_Day.Text, "");
   EXPECT_EQ(p.f.Defaults_Users_FileExtend_DropDown.Text, ".txt");
 
-  const std::pair<const app::DropDown*, List> ranges[] = {
+  const std::pair<const state::DropDown*, List> ranges[] = {
       {&p.f.PageMetaTags_RevisitAfter_DropDown, {"10", " 10 days", " 100 days"}},
       {&p.f.PageMetaTags_Expires_Day, {"31", " 1", " 31"}},
       {&p.f.PageMetaTags_Expires_Month, {"12", "January", "December"}},

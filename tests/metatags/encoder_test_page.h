@@ -7,11 +7,11 @@
 #include <set>
 #include <string>
 
-#include "app/app_state.h"
 #include "decode/meta_tag_table.h"
 #include "document/document_cache.h"
 #include "document/tag_scanner.h"
 #include "fake_platform.h"
+#include "state/app_state.h"
 #include "test_files.h"
 
 namespace zentrel::testing {

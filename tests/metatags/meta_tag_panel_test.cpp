@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "analysis/keyword_list.h"
-#include "app/app_state.h"
 #include "decode/meta_tag_table.h"
 #include "fake_platform.h"
+#include "state/app_state.h"
 
 namespace zentrel::metatags {
 namespace {
@@ -13,7 +13,7 @@ namespace {
 struct Panel {
   testing::FakePlatform platform;
   AppState s{platform};
-  app::FormModel& f = s.Form;
+  state::FormModel& f = s.Form;
   Panel() { decode::Init_MetaTag_Table(s); }
   void Keywords(const std::vector<std::string>& words) {
     analysis::Reset_Keyword_List(s);

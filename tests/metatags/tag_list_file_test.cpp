@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include "app/app_state.h"
 #include "base/run_time_error.h"
 #include "decode/meta_tag_table.h"
 #include "fake_platform.h"
 #include "full_disk.h"
 #include "metatags/meta_tag_panel.h"
+#include "state/app_state.h"
 #include "test_files.h"
 
 namespace zentrel::metatags {

@@ -27,7 +27,7 @@ void FakePlatform::AnswerNo() {
   answers_.push_back({Answer::No, "", -1, ""});
 }
 
-bool FakePlatform::Dialog(app::FileDialog& dialog, Answer::Kind kind) {
+bool FakePlatform::Dialog(state::FileDialog& dialog, Answer::Kind kind) {
   dialogs.push_back(dialog);
   if (answers_.empty()) {
     ADD_FAILURE() << "unexpected file dialog with filter " << dialog.Filter;
@@ -46,10 +46,10 @@ bool FakePlatform::Dialog(app::FileDialog& dialog, Answer::Kind kind) {
   return true;
 }
 
-bool FakePlatform::ShowOpen(app::FileDialog& dialog) {
+bool FakePlatform::ShowOpen(state::FileDialog& dialog) {
   return Dialog(dialog, Answer::Open);
 }
-bool FakePlatform::ShowSave(app::FileDialog& dialog) {
+bool FakePlatform::ShowSave(state::FileDialog& dialog) {
   return Dialog(dialog, Answer::Save);
 }
 

@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "app/platform.h"
+#include "state/platform.h"
 
 namespace zentrel::testing {
 
-class FakePlatform : public app::Platform {
+class FakePlatform : public state::Platform {
  public:
   explicit FakePlatform(std::string executableFolder = "/nonexistent-zentrel-folder");
   ~FakePlatform() override;
@@ -23,8 +23,8 @@ class FakePlatform : public app::Platform {
   void AnswerYes();
   void AnswerNo();
 
-  bool ShowOpen(app::FileDialog& dialog) override;
-  bool ShowSave(app::FileDialog& dialog) override;
+  bool ShowOpen(state::FileDialog& dialog) override;
+  bool ShowSave(state::FileDialog& dialog) override;
   bool AskYesNo(const std::string& title, const std::string& text) override;
   void ShowMessage(const std::string& text) override;
   void BeginBusy() override {
@@ -39,7 +39,7 @@ class FakePlatform : public app::Platform {
   std::string executableFolder;
   std::vector<std::string> questions;  // "TITLE: text"
   std::vector<std::string> messages;
-  std::vector<app::FileDialog> dialogs;  // what each dialog was shown with
+  std::vector<state::FileDialog> dialogs;  // what each dialog was shown with
   std::vector<std::string> openedDocuments;
   int busyDepth = 0;
   int busyCount = 0;
@@ -52,7 +52,7 @@ class FakePlatform : public app::Platform {
     int filterIndex = -1;
     std::string ext;
   };
-  bool Dialog(app::FileDialog& dialog, Answer::Kind kind);
+  bool Dialog(state::FileDialog& dialog, Answer::Kind kind);
   std::deque<Answer> answers_;
 };
 

@@ -9,8 +9,8 @@
 #include <QTabWidget>
 #include <QTextCursor>
 
-#include "app/app_state.h"
 #include "fake_platform.h"
+#include "state/app_state.h"
 #include "ui/common_dialog.h"
 #include "ui/form_binding.h"
 #include "ui/text_codec.h"

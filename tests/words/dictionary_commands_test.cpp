@@ -5,12 +5,12 @@
 #include <gtest/gtest.h>
 
 #include "../app/shell_program_folder.h"
-#include "app/app_state.h"
 #include "app/control_table.h"
 #include "app/startup.h"
 #include "base/text.h"
 #include "fake_platform.h"
 #include "full_disk.h"
+#include "state/app_state.h"
 #include "test_files.h"
 #include "words/filter_dictionary.h"
 
@@ -91,7 +91,7 @@ TEST(EditWordFilters_SAVE_Click, AlwaysWritesTheStandardDictionary) {
   p.platform.AnswerOpen(p.File("zoo.txt", "zebra\r\n"));
   p.Click("EditWordFilters_MergeDictionary");
   EXPECT_EQ(p.List(), (Words{"and", "the", "zebra"}));
-  const app::FileDialog& shown = p.platform.dialogs.back();
+  const state::FileDialog& shown = p.platform.dialogs.back();
   EXPECT_EQ(shown.Filter, "(*.txt)|*.txt|");
   EXPECT_EQ(shown.DefaultExt, ".txt");
 
@@ -187,8 +187,8 @@ TEST(EditWordFilters, CancelledDialogsChangeNothing) {
 
 // Every check box of the window copies itself into its own setting and no other.
 TEST(Prefs_CheckBoxes, EachClickCopiesItsBoxIntoItsSetting) {
-  using F = app::FormModel;
-  using S = app::ShellFields;
+  using F = state::FormModel;
+  using S = state::ShellFields;
 #define BOX(name, setting) \
   { #name, &F::name, &S::setting }
   const std::tuple<const char*, int16_t F::*, int16_t S::*> pairs[] = {

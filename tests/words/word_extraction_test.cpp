@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "app/app_state.h"
 #include "base/run_time_error.h"
 #include "fake_platform.h"
+#include "state/app_state.h"
 
 namespace zentrel::words {
 namespace {

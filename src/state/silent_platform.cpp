@@ -1,8 +1,8 @@
-#include "app/silent_platform.h"
+#include "state/silent_platform.h"
 
 #include <filesystem>
 
-namespace zentrel::app {
+namespace zentrel::state {
 
 std::string Running_Program_Folder() {
   std::error_code ec;
@@ -10,4 +10,4 @@ std::string Running_Program_Folder() {
   return ec ? std::string(".") : exe.parent_path().string();
 }
 
-}  // namespace zentrel::app
+}  // namespace zentrel::state

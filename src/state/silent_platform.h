@@ -5,9 +5,9 @@
 
 #include <string>
 
-#include "app/platform.h"
+#include "state/platform.h"
 
-namespace zentrel::app {
+namespace zentrel::state {
 
 // The folder of the running executable ("." when it cannot be told).
 std::string Running_Program_Folder();
@@ -25,4 +25,4 @@ class SilentPlatform : public Platform {
   std::string ExecutableFolder() override { return Running_Program_Folder(); }
 };
 
-}  // namespace zentrel::app
+}  // namespace zentrel::state

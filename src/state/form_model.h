@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace zentrel::app {
+namespace zentrel::state {
 
 struct DropDown {
   std::vector<std::string> List;
@@ -101,4 +101,4 @@ struct FormModel {
   bool ProgramHasEnded = false;
 };
 
-}  // namespace zentrel::app
+}  // namespace zentrel::state

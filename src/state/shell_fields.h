@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-namespace zentrel::app {
+namespace zentrel::state {
 
 struct ShellFields {
   std::string ProgramFolder;
@@ -46,4 +46,4 @@ struct ShellFields {
   int16_t RecentFileCount = 0;
 };
 
-}  // namespace zentrel::app
+}  // namespace zentrel::state

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-namespace zentrel::app {
+namespace zentrel::state {
 
 // An open-file or save-file dialog. The filter is "|"-separated description and pattern pairs
 // ending in "|" ("(*.txt)|*.txt|"); FilterIndex is 1-based. When the user picks a file the
@@ -56,4 +56,4 @@ class BusyCursor {
   Platform& platform_;
 };
 
-}  // namespace zentrel::app
+}  // namespace zentrel::state

@@ -1,0 +1,36 @@
+#pragma once
+// The fields of the analysis (analysis/): the keyword list of one analysis and the page report
+// buffer.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace zentrel::state {
+
+struct KeywordListFields {
+  // Per-keyword arrays with indexes 0..KeywordCapacity.
+  std::vector<std::string> KeywordList;
+  std::vector<int16_t> KeywordBodyMatches;
+  std::vector<int16_t> KeywordTitleMatches;
+  // KeywordWords[keyword index 0..KeywordCapacity]: the keyword's words, each keyword keeping
+  // only its own, so one long phrase does not widen every keyword's row.
+  std::vector<std::vector<std::string>> KeywordWords;
+  int16_t KeywordCount = 0;
+  int16_t KeywordCapacity = 0;
+  // The duplicates found by the last check, each with CR LF. The analysis hands the text over
+  // to its report line, so after an analysis it is empty.
+  std::string KeywordDoublesText;
+  int16_t KeywordSplitCount = 0;  // parts of the last keyword split (page's or user's)
+};
+
+struct PageReportFields {
+  // The text written so far. The classic buffer is this text followed by spaces up to
+  // ReportBufferSize; only the written part is stored, and the size is kept as bookkeeping.
+  // The finished report is handed over to the "Page Report" box, not copied.
+  std::string ReportBuffer;
+  int32_t ReportBufferSize = 0;
+  int32_t ReportWritePos = 1;  // 1-based
+};
+
+}  // namespace zentrel::state
