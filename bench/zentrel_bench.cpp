@@ -7,12 +7,13 @@
 #include <filesystem>
 #include <map>
 
-#include "analysis/analysis_driver.h"
 #include "analysis/keyword_list.h"
 #include "analysis/keyword_matching.h"
 #include "bench_session.h"
+#include "commands/edit_meta_tags.h"
+#include "commands/page_saving.h"
+#include "commands/scan_keywords.h"
 #include "decode/decoder.h"
-#include "metatags/meta_tag_panel.h"
 #include "metatags/page_encoder.h"
 #include "page_generator.h"
 #include "words/filter_dictionary.h"
@@ -60,7 +61,7 @@ void BM_Baseline(benchmark::State& st) {
 void BM_WholeAnalysis(benchmark::State& st) {
   Session session(Page(st.range(0)));
   for (auto _ : st)
-    analysis::Meta_Tag_KeyWord_Scan(*session.state, "bench.html");
+    commands::Meta_Tag_KeyWord_Scan(*session.state, "bench.html");
   Set_Bytes(st, st.range(0));
 }
 
@@ -87,7 +88,7 @@ void Keyword_Tallies(benchmark::State& st, int16_t scanType) {
   Session session(Page(st.range(0)));
   AppState& s = *session.state;
   s.KeywordsMatchScanType = scanType;
-  analysis::Meta_Tag_KeyWord_Scan(s, "bench.html");
+  commands::Meta_Tag_KeyWord_Scan(s, "bench.html");
   for (auto _ : st) {
     std::fill(s.KeywordBodyMatches.begin(), s.KeywordBodyMatches.end(), int16_t{0});
     analysis::Tally_Current_TITLE_Keyword_Matches(s);
@@ -109,7 +110,7 @@ void BM_Report(benchmark::State& st) {
   AppState& s = *session.state;
   s.ReportExportWordCount = 1;  // the report with every section
   for (auto _ : st)
-    analysis::Meta_Tag_KeyWord_Scan(s, "bench.html");
+    commands::Meta_Tag_KeyWord_Scan(s, "bench.html");
   Set_Bytes(st, st.range(0));
 }
 
@@ -117,15 +118,15 @@ void BM_RebuildAndSave(benchmark::State& st) {
   const std::string& page = Page(st.range(0));
   Session session(page);
   AppState& s = *session.state;
-  analysis::Meta_Tag_KeyWord_Scan(s, "bench.html");
+  commands::Meta_Tag_KeyWord_Scan(s, "bench.html");
   for (int16_t i = 0; i < 13; ++i)
-    metatags::Set_MetaTag_TextBox(s, i, "value " + std::to_string(i));
+    commands::Set_MetaTag_TextBox(s, i, "value " + std::to_string(i));
   auto out = std::filesystem::temp_directory_path() / "zentrel-bench-rebuild.html";
   for (auto _ : st) {
     st.PauseTiming();
     s.Form.Html_Document_Editor = page;
     st.ResumeTiming();
-    metatags::HTML_ENCODE_Document(s, out.string(), 0);
+    commands::HTML_ENCODE_Document(s, out.string(), 0);
   }
   std::filesystem::remove(out);
   Set_Bytes(st, st.range(0));

@@ -10,8 +10,6 @@
 #include "base/text.h"
 #include "decode/decoder.h"
 #include "decode/meta_tag_table.h"
-#include "document/document_cache.h"
-#include "metatags/meta_tag_panel.h"
 #include "state/app_state.h"
 #include "words/filter_dictionary.h"
 #include "words/word_count.h"
@@ -34,6 +32,7 @@ size_t LongestOf(const std::vector<std::string>& lines) {
 }
 
 void ResetForScan(AppState& s) {
+  static_cast<state::AnalysisResultFields&>(s) = {};
   s.StrippedText.clear();
   Reset_Report(s);
   Reset_Keyword_List(s);
@@ -122,7 +121,7 @@ void ReportDensity(AppState& s) {
     Blank(s);
     ReportPadded(s, lines);
   }
-  s.Form.ScanKeyWords_KeyWordDensity_TextBox = std::move(box);
+  s.DensityText = std::move(box);
 }
 
 void ReportWordCount(AppState& s) {
@@ -133,7 +132,7 @@ void ReportWordCount(AppState& s) {
     box += lines.back();
     box += text::kCrLf;
   }
-  s.Form.ScanKeyWords_DocumentWordCount_TextBox = std::move(box);
+  s.WordCountText = std::move(box);
   if (s.ReportExportWordCount != 1)
     return;
   Blank(s);
@@ -147,17 +146,34 @@ void ReportWordCount(AppState& s) {
   ReportPadded(s, lines);
 }
 
+// "View Body" shows the words counted, unless it is to show the raw body, which the decoder
+// has then left in StrippedText (it decodes no empty page).
+void RawBodyView(AppState& s) {
+  if (s.ViewBodyShowRaw == 1 && s.DocumentLength >= 1)
+    s.BodyViewText = s.StrippedText;
+}
+
+void WordsBodyView(AppState& s) {
+  if (s.ViewBodyShowRaw == 1)
+    return;
+  const int32_t count = s.DocumentWordCount;
+  if (count > 0)
+    CheckIndex(count - 1, 0, static_cast<int64_t>(s.DocumentWords.size()) - 1);
+  s.BodyViewText = s.DocumentWords.Join(static_cast<size_t>(std::max(count, 0)), ", ");
+}
+
 }  // namespace
 
-void Meta_Tag_KeyWord_Scan(AppState& s, const std::string& /*fileName*/) {
+void Analyse_Page(AppState& s) {
   state::BusyCursor busy(*s.platform);
   s.platform->DoEvents();
   ResetForScan(s);
-  s.Form.ScanKeyWords_DocumentWordCount_TextBox.clear();
+  s.WordCountText = "";
   Report_Section_Break(s, "Zentrel Page Report");
   Blank(s);
   Blank(s);
   decode::HTML_Decode_Document(s);
+  RawBodyView(s);
   ReportHead(s);
   words::Word_Count_Stripped_Text(s);
   Add_Pages_MetaTag_keywords(s);
@@ -169,6 +185,7 @@ void Meta_Tag_KeyWord_Scan(AppState& s, const std::string& /*fileName*/) {
 
   const int16_t titleHits = Tally_Current_TITLE_Keyword_Matches(s);
   Tally_Current_Documents_Keyword_Matches(s);
+  WordsBodyView(s);
   Remove_Keyword_With_Low_Match_Counts(s);
   Sort_Page_KeyWord_Strings(s);
 
@@ -182,7 +199,7 @@ void Meta_Tag_KeyWord_Scan(AppState& s, const std::string& /*fileName*/) {
     matchesBox += text::kCrLf;
   }
   // The box is cut one character past the text, which leaves one space at its end.
-  s.Form.ScanKeyWords_KeyWordMatches_TextBox = matchesBox + " ";
+  s.MatchesText = matchesBox + " ";
   keywordLength += 2 * (int64_t{s.KeywordCount} - 1);
 
   Blank(s);
@@ -213,26 +230,16 @@ void Meta_Tag_KeyWord_Scan(AppState& s, const std::string& /*fileName*/) {
     ReportPadded(s, lines);
   }
 
-  s.Form.Body_Word_Count_Label = "Unique Word Count=" + SignedNumber(s.UniqueWordCount);
-  s.Form.Body_Word_Count_label2 = "Word Count=" + SignedNumber(s.DocumentWordCount);
+  s.UniqueWordsLabel = "Unique Word Count=" + SignedNumber(s.UniqueWordCount);
+  s.WordsLabel = "Word Count=" + SignedNumber(s.DocumentWordCount);
   ReportDensity(s);
   ReportWordCount(s);
 
-  metatags::Set_Metatag_Page_TextBoxes(s);
-  words::SetWordFilter_TextBoxes(s);
+  s.ResultFieldsDue = true;
   Blank(s);
   Blank(s);
   Report_Section_Break(s, "Process Done");
-  s.Form.ReportTextBox = Report_Text(s);
-}
-
-void ReScanPage(AppState& s) {
-  s.DocumentLength = document::Reload_File_From_Memory_TO_Cache(s);
-  Meta_Tag_KeyWord_Scan(s, s.CurrentFileName);
-}
-
-void Command2_Click(AppState& s) {
-  ReScanPage(s);
+  s.ReportText = Report_Text(s);
 }
 
 }  // namespace zentrel::analysis

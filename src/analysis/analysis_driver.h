@@ -1,7 +1,7 @@
 #pragma once
-// The analysis of the loaded page: decode, count, match and report, in one fixed order.
-
-#include <string>
+// The analysis of the loaded page: decode, count, match and report, in one fixed order. It
+// computes; the texts for the window's boxes are left in the state's result fields, which the
+// command that ran it shows.
 
 namespace zentrel {
 struct AppState;
@@ -9,8 +9,6 @@ struct AppState;
 
 namespace zentrel::analysis {
 
-void Meta_Tag_KeyWord_Scan(AppState& s, const std::string& fileName);
-void ReScanPage(AppState& s);
-void Command2_Click(AppState& s);  // "Rescan"
+void Analyse_Page(AppState& s);
 
 }  // namespace zentrel::analysis

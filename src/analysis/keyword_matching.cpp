@@ -225,16 +225,6 @@ void ScanWords(AppState& s) {
   }
 }
 
-void FillBodyView(AppState& s) {
-  if (s.ViewBodyShowRaw == 1)
-    return;
-  const int32_t count = s.DocumentWordCount;
-  if (count > 0)
-    CheckIndex(count - 1, 0, static_cast<int64_t>(s.DocumentWords.size()) - 1);
-  s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox =
-      s.DocumentWords.Join(static_cast<size_t>(std::max(count, 0)), ", ");
-}
-
 }  // namespace
 
 int16_t Tally_Current_TITLE_Keyword_Matches(AppState& s) {
@@ -254,7 +244,6 @@ void Tally_Current_Documents_Keyword_Matches(AppState& s) {
     ScanText(s);
   else if (s.KeywordsMatchScanType == 1)
     ScanWords(s);
-  FillBodyView(s);
 }
 
 std::string Check_Percentage_String(const std::string& value) {

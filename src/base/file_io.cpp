@@ -342,4 +342,13 @@ void ReadListItems(std::string_view content, const std::function<void(std::strin
   }
 }
 
+std::pair<std::string_view, std::string_view> SplitPreferenceLine(std::string_view line) {
+  if (line.size() < 2)
+    return {};
+  size_t colon = line.find(':');
+  if (colon == std::string_view::npos)
+    return {};
+  return {line.substr(0, colon + 1), line.substr(colon + 1)};
+}
+
 }  // namespace zentrel::file_io

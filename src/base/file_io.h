@@ -10,6 +10,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace zentrel::file_io {
 
@@ -71,5 +72,10 @@ void WriteFileAtomic(const std::string& path, std::string_view bytes,
 // at the end of the line (CR LF, LF or CR) with trailing blanks dropped. Calls `each` with
 // every item in order, as a view into content: a file of millions of items costs no copies.
 void ReadListItems(std::string_view content, const std::function<void(std::string_view)>& each);
+
+// An item of a "key:value" list (the preferences file, a META tag list): the key with its ":"
+// and the value after it, as views into the item; both empty when the item has fewer than 2
+// characters or no ":".
+std::pair<std::string_view, std::string_view> SplitPreferenceLine(std::string_view line);
 
 }  // namespace zentrel::file_io

@@ -4,22 +4,21 @@
 #include <functional>
 #include <optional>
 
-#include "analysis/analysis_driver.h"
-#include "analysis/report_export.h"
-#include "app/control_table.h"
-#include "app/page_loading.h"
-#include "app/startup.h"
 #include "base/file_io.h"
 #include "cli/cli_platform.h"
 #include "cli/json_output.h"
+#include "commands/control_table.h"
+#include "commands/edit_meta_tags.h"
+#include "commands/page_loading.h"
+#include "commands/page_saving.h"
+#include "commands/scan_keywords.h"
+#include "commands/startup.h"
+#include "commands/view_body_report.h"
+#include "commands/word_filters.h"
 #include "decode/decoder.h"
 #include "decode/meta_tag_table.h"
 #include "decode/section_validation.h"
-#include "metatags/meta_tag_panel.h"
-#include "metatags/page_encoder.h"
-#include "metatags/tag_list_file.h"
 #include "state/app_state.h"
-#include "words/filter_dictionary.h"
 
 namespace zentrel::cli {
 
@@ -138,16 +137,16 @@ void Require_Readable(const std::string& path, const std::string& what) {
 
 void Apply_Options(AppState& s, const Options& o) {
   if (o.dictionary)
-    words::Load_Default_Word_Filters(s, *o.dictionary);
+    commands::Load_Default_Word_Filters(s, *o.dictionary);
   if (o.keywords)
-    analysis::Set_Users_METATAGS_TextBox(s, *o.keywords);
+    commands::Set_Users_METATAGS_TextBox(s, *o.keywords);
   if (o.includeWordCount) {
     s.Form.PageReport_Export_WordCount_CheckBox = 1;
-    analysis::PageReport_Export_WordCount_CheckBox_Click(s);
+    commands::PageReport_Export_WordCount_CheckBox_Click(s);
   }
   if (o.showRawBody) {
     s.Form.ViewBody_ShowRAWBODY_CHeckBox = 1;
-    analysis::ViewBody_ShowRAWBODY_CHeckBox_Click(s);
+    commands::ViewBody_ShowRAWBODY_CHeckBox_Click(s);
   }
 }
 
@@ -160,8 +159,8 @@ class Session {
       : platform_(err, folder, o.force), state_(platform_) {
     state_.PreferencesFileOverride = o.prefs.value_or("");
     platform_.SetSubject("zentrel-cli");
-    started_ = app::Form_Load(state_) &&
-               !app::Run_Guarded(state_, [&o](AppState& s) { Apply_Options(s, o); });
+    started_ = commands::Form_Load(state_) &&
+               !commands::Run_Guarded(state_, [&o](AppState& s) { Apply_Options(s, o); });
     platform_.SetSubject("");
   }
 
@@ -173,7 +172,7 @@ class Session {
   bool Load(const std::string& page) {
     page_ = page;
     int before = platform_.messagesShown();
-    state_.DocumentLength = app::Load_File_To_Cache(state_, page, 1);
+    state_.DocumentLength = commands::Load_File_To_Cache(state_, page, 1);
     return platform_.messagesShown() == before;
   }
 
@@ -181,7 +180,7 @@ class Session {
   // after the page's name.
   std::optional<std::string> Run(const std::function<void(AppState&)>& command) {
     platform_.SetSubject(page_);
-    std::optional<std::string> error = app::Run_Guarded(state_, command);
+    std::optional<std::string> error = commands::Run_Guarded(state_, command);
     platform_.SetSubject("");
     return error;
   }
@@ -209,7 +208,7 @@ int Run_Page(Session& session, const Options& o, const std::string& page, std::o
   const AppState& s = session.state();
   std::optional<std::string> error;
   if (s.DocumentLength != 0) {
-    error = session.Run([&page](AppState& st) { analysis::Meta_Tag_KeyWord_Scan(st, page); });
+    error = session.Run([&page](AppState& st) { commands::Meta_Tag_KeyWord_Scan(st, page); });
   }
   if (o.command == "report")
     out << s.Form.ReportTextBox;
@@ -237,13 +236,13 @@ int Run_Rebuild(const Options& o, std::ostream& err, const std::string& folder) 
   bool written = false;
   if (session.Run([&](AppState& s) {
         if (s.DocumentLength != 0)
-          analysis::Meta_Tag_KeyWord_Scan(s, page);
-        metatags::MetaTagFunctions_MArk_ALL_Checkboxes_Click(s);
+          commands::Meta_Tag_KeyWord_Scan(s, page);
+        commands::MetaTagFunctions_MArk_ALL_Checkboxes_Click(s);
         if (o.tags)
-          metatags::Apply_MetaTag_List_Text(s, file_io::ReadWholeFile(*o.tags));
+          commands::Apply_MetaTag_List_Text(s, file_io::ReadWholeFile(*o.tags));
         for (const auto& [i, value] : fields)
-          metatags::Set_MetaTag_TextBox(s, i, value);
-        written = metatags::HTML_ENCODE_Document(s, *o.out, 0);
+          commands::Set_MetaTag_TextBox(s, i, value);
+        written = commands::HTML_ENCODE_Document(s, *o.out, 0);
       }))
     return kPageFailed;
   if (!written) {

@@ -95,8 +95,6 @@ void FinishWordText(AppState& s) {
   s.platform->DoEvents();
   FoldSpaces(s.StrippedText);
   s.platform->DoEvents();
-  if (s.ViewBodyShowRaw == 1)
-    s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox = s.StrippedText;
 }
 
 // An image's ALT text, taken from the second character after "alt=" up to the next double

@@ -1,8 +1,5 @@
 #include "decode/section_validation.h"
 
-#include <algorithm>
-#include <cstring>
-
 #include "base/run_time_error.h"
 #include "state/app_state.h"
 
@@ -73,33 +70,6 @@ int32_t Html_Get_Ending_HeaderByte_For_Tag_Encoding(const AppState& s) {
   if (s.HeadEnd >= 0)
     return s.HeadEnd;
   return ToInt32(static_cast<int64_t>(s.DocumentLength) + 1);
-}
-
-int32_t Html_Copy_Section_To_Temp(AppState& s, int32_t from, int32_t to, int32_t destination) {
-  if (from >= to)
-    return destination;
-  // Byte by byte in effect: the bytes blanked by Html_Clear_Cache_Section (zeros) are left
-  // out, a position past the cache or the buffer is a subscript error. Done run by run.
-  if (from < 0 || destination < 0)
-    RaiseSubscriptOutOfRange();
-  const auto cacheSize = static_cast<int64_t>(s.DocumentBytes.size());
-  const int64_t last = std::min<int64_t>(to, cacheSize - 1);
-  const uint8_t* bytes = s.DocumentBytes.data();
-  int64_t next = destination;
-  int64_t p = from;
-  while (p <= last) {
-    const void* zero = std::memchr(bytes + p, 0, static_cast<size_t>(last - p + 1));
-    const int64_t stop = zero == nullptr ? last + 1 : static_cast<const uint8_t*>(zero) - bytes;
-    const int64_t run = stop - p;
-    if (next + run > static_cast<int64_t>(s.RebuildBytes.size()))
-      RaiseSubscriptOutOfRange();
-    std::memcpy(s.RebuildBytes.data() + next, bytes + p, static_cast<size_t>(run));
-    next += run;
-    p = stop + 1;  // over the zero
-  }
-  if (to > last)
-    RaiseSubscriptOutOfRange();
-  return ToInt32(next);
 }
 
 }  // namespace zentrel::decode

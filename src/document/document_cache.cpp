@@ -27,13 +27,8 @@ int32_t Reload_File_From_Memory_TO_Cache(AppState& s) {
     return s.DocumentLength;
   state::BusyCursor busy(*s.platform);
   const int32_t n = ToInt32(static_cast<int64_t>(edited.size()));
-  const int32_t allocated = ToInt32(static_cast<int64_t>(n) + kReloadSpare);
-  // The page, then zeros up to the recorded size: each byte written once.
-  const auto* data = reinterpret_cast<const uint8_t*>(edited.data());
-  s.DocumentBytes.clear();
-  s.DocumentBytes.reserve(static_cast<size_t>(allocated) + 1);
-  s.DocumentBytes.assign(data, data + edited.size());
-  s.DocumentBytes.resize(static_cast<size_t>(allocated) + 1, 0);
+  ToInt32(static_cast<int64_t>(n) + kReloadSpare);  // the cache's highest index
+  Fill_Document_Cache(s, edited, kReloadSpare + 1);
   s.DocumentText = edited;
   return n;
 }
@@ -41,14 +36,18 @@ int32_t Reload_File_From_Memory_TO_Cache(AppState& s) {
 int32_t DO_LOAD_File_TO_CACHE(AppState& s, const std::string& path) {
   std::string bytes = file_io::ReadWholeFile(path);
   const int32_t n = ToInt32(static_cast<int64_t>(bytes.size()));
-  s.DocumentBytes.clear();
-  s.DocumentBytes.reserve(bytes.size() + 1);  // the zero byte past the page without a move
-  const auto* data = reinterpret_cast<const uint8_t*>(bytes.data());  // copied as one block
-  s.DocumentBytes.assign(data, data + bytes.size());
-  s.DocumentBytes.push_back(0);
+  Fill_Document_Cache(s, bytes, 1);
   s.DocumentText = std::move(bytes);
-  s.Form.Html_Document_Editor = s.DocumentText;
   return n;
+}
+
+void Fill_Document_Cache(AppState& s, std::string_view bytes, size_t zeros) {
+  // Copied as one block, then the zeros, into room made once: each byte is written once.
+  const auto* data = reinterpret_cast<const uint8_t*>(bytes.data());
+  s.DocumentBytes.clear();
+  s.DocumentBytes.reserve(bytes.size() + zeros);
+  s.DocumentBytes.assign(data, data + bytes.size());
+  s.DocumentBytes.resize(bytes.size() + zeros, 0);
 }
 
 void Html_Clear_Cache_Section(AppState& s, int32_t start, int32_t end) {

@@ -25,8 +25,11 @@ inline uint8_t CacheByte(const state::DocumentCacheFields& c, int64_t p) {
 
 // Takes the page source editor's text back into the cache when it changed; returns the length.
 int32_t Reload_File_From_Memory_TO_Cache(AppState& s);
-// Reads a page file into the cache and the editor; throws file_io::FileError.
+// Reads a page file into the cache and DocumentText; throws file_io::FileError. The caller
+// shows the text in the page source editor.
 int32_t DO_LOAD_File_TO_CACHE(AppState& s, const std::string& path);
+// Puts bytes into the cache, followed by `zeros` zero bytes (at least the one past the page).
+void Fill_Document_Cache(AppState& s, std::string_view bytes, size_t zeros);
 void Html_Clear_Cache_Section(AppState& s, int32_t start, int32_t end);
 std::string Get_String_From_CacheAtPos(const AppState& s, int32_t first, int32_t last);
 int32_t Find_String_Filecache(const AppState& s, std::string_view needle, int32_t start);

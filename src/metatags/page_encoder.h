@@ -1,6 +1,7 @@
 #pragma once
-// Rebuilding the page with the panel's META tags: the old TITLE and known META tags blanked,
-// a fresh header block written just inside the head, the result saved and loaded back.
+// Rebuilding the page with the fields of "Edit Meta Tags": the old TITLE and known META tags
+// blanked in the cache, a fresh header block of one TITLE line and one META line per field
+// written just inside the head, the result in RebuildBytes. Saving it is the save path's.
 
 #include <cstdint>
 #include <string>
@@ -11,16 +12,17 @@ struct AppState;
 
 namespace zentrel::metatags {
 
-inline constexpr const char* kTempDataFileName = "Zentrel_TempData.tmp";
-
 std::string Build_Meta_Tag(const AppState& s, const std::string& content, const std::string& name);
-// True when the page was written and loaded back; false when nothing was changed (empty name or
-// document, or No to the WARNING question).
-bool HTML_ENCODE_Document(AppState& s, const std::string& fileName, int16_t rebuildFlag);
-
-void MetaTagEncodePref_SwapContentAndNameOrder_CheckBox_Click(AppState& s);
-void MetaTagEncodePref_UseComaSpaceBetweenKeyWords_CheckBox_Click(AppState& s);
-void TagsOption_USE_META_TITLE_Click(AppState& s);
-void Check2_Click(AppState& s);
+// Rescans the page so that only the tags found now get blanked; returns the first problem of
+// its sections, or "" when they are in order.
+std::string Rescan_For_Encoding(AppState& s);
+// Rebuilds the rescanned page into RebuildBytes and returns the number of bytes written. A
+// header block that does not fit twice the page's length is a run-time error; the cache then
+// has lost its old tags.
+int32_t Rebuild_Page(AppState& s);
+// Copies the cache's bytes `from` to `to` inclusive, leaving out the blanked ones (zeros),
+// into RebuildBytes at `destination`; returns the position after the last byte written.
+// Nothing is copied when from >= to.
+int32_t Html_Copy_Section_To_Temp(AppState& s, int32_t from, int32_t to, int32_t destination);
 
 }  // namespace zentrel::metatags

@@ -1,19 +1,15 @@
 #include "metatags/tag_list_file.h"
 
-#include "app/preferences.h"
 #include "base/file_io.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "decode/meta_tag_table.h"
-#include "metatags/meta_tag_panel.h"
 #include "state/app_state.h"
 
 namespace zentrel::metatags {
 
 namespace {
 
-constexpr const char* kTagListFilter = "(*.tag)|*.tag|(*.*)|*.*|";
-constexpr const char* kTagListExtension = ".tag";
 // Values are read item by item, where a comma ends an item, so commas are stored encoded.
 constexpr const char* kComma = "&coma&";
 
@@ -33,35 +29,18 @@ std::string MetaTag_List_Text(const AppState& s) {
   return out;
 }
 
-// Only marked fields take a value; a marked field the text does not name keeps its own.
-void Apply_MetaTag_List_Text(AppState& s, const std::string& content) {
-  file_io::ReadListItems(content, [&s](std::string_view item) {
-    auto [key, value] = app::SplitPreferenceLine(item);
+std::vector<std::pair<int16_t, std::string>> Read_MetaTag_List(const AppState& s,
+                                                               std::string_view content) {
+  std::vector<std::pair<int16_t, std::string>> entries;
+  file_io::ReadListItems(content, [&](std::string_view item) {
+    auto [key, value] = file_io::SplitPreferenceLine(item);
     if (key.size() > 1)
       key.remove_suffix(1);
-    int16_t index = decode::Find_MetaTag_Index(s, std::string(key));
-    if (index < 0)
-      return;
-    // "title" and "zentrel" have no field: their check-box lookup is out of range.
-    if (At(s.Form.MetaTag_Selection_CheckBox, index) != 1)
-      return;
-    Set_MetaTag_TextBox(s, index, text::ReplaceAll(value, kComma, ","));
+    const int16_t index = decode::Find_MetaTag_Index(s, std::string(key));
+    if (index >= 0)
+      entries.emplace_back(index, text::ReplaceAll(value, kComma, ","));
   });
-}
-
-void Save_MetaTag_List(AppState& s) {
-  state::FileDialog dialog{"", kTagListFilter, 1, kTagListExtension};
-  if (!s.platform->ShowSave(dialog) || dialog.FileName.empty())
-    return;
-  file_io::WriteFileAtomic(dialog.FileName, MetaTag_List_Text(s), *s.files);
-}
-
-void Load_MetaTagList(AppState& s) {
-  state::FileDialog dialog{"", kTagListFilter, 1, kTagListExtension};
-  if (!s.platform->ShowOpen(dialog) || dialog.FileName.empty() ||
-      !file_io::FileExists(dialog.FileName))
-    return;
-  Apply_MetaTag_List_Text(s, file_io::ReadWholeFile(dialog.FileName));
+  return entries;
 }
 
 }  // namespace zentrel::metatags

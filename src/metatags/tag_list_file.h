@@ -1,7 +1,12 @@
 #pragma once
-// META tag list files (".tag"): the marked fields saved apart from any page and loaded back.
+// META tag list files (".tag"): the marked fields saved apart from any page, one
+// "name:value" line each with its commas encoded, and read back.
 
+#include <cstdint>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace zentrel {
 struct AppState;
@@ -9,11 +14,14 @@ struct AppState;
 
 namespace zentrel::metatags {
 
-void Save_MetaTag_List(AppState& s);
-void Load_MetaTagList(AppState& s);
-// The file's text for the marked, non-empty fields; and reading a file's text into the
-// marked fields (the dialog-free halves, shared with the command line).
+inline constexpr const char* kTagListFilter = "(*.tag)|*.tag|(*.*)|*.*|";
+inline constexpr const char* kTagListExtension = ".tag";
+
+// The file's text for the marked, non-empty fields.
 std::string MetaTag_List_Text(const AppState& s);
-void Apply_MetaTag_List_Text(AppState& s, const std::string& content);
+// The entries of a file's text whose name the META tag table knows, in file order: the
+// name's index and the value with its commas decoded.
+std::vector<std::pair<int16_t, std::string>> Read_MetaTag_List(const AppState& s,
+                                                               std::string_view content);
 
 }  // namespace zentrel::metatags

@@ -1,8 +1,9 @@
 #pragma once
-// The fields of the analysis (analysis/): the keyword list of one analysis and the page report
-// buffer.
+// The fields of the analysis (analysis/): the keyword list of one analysis, the page report
+// buffer, and what the analysis produced for the window.
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,20 @@ struct PageReportFields {
   std::string ReportBuffer;
   int32_t ReportBufferSize = 0;
   int32_t ReportWritePos = 1;  // 1-based
+};
+
+// The texts one analysis produced for the window's boxes. Each is set when the analysis gets
+// that far, so an analysis that an error ends leaves the later ones unset; the command that
+// ran it shows the ones set (and clears them), and the boxes stand as far as they were filled.
+struct AnalysisResultFields {
+  std::optional<std::string> WordCountText;     // "Body Word Count"
+  std::optional<std::string> BodyViewText;      // "View Body"
+  std::optional<std::string> MatchesText;       // "KeyWord Matches"
+  std::optional<std::string> UniqueWordsLabel;  // "Unique Word Count= ..."
+  std::optional<std::string> WordsLabel;        // "Word Count= ..."
+  std::optional<std::string> DensityText;       // "KeyWord Density"
+  std::optional<std::string> ReportText;        // "Page Report"
+  bool ResultFieldsDue = false;  // the META fields and the filter list are to be shown
 };
 
 }  // namespace zentrel::state

@@ -26,6 +26,7 @@ struct AppState : state::ShellFields,
                   state::FilterDictionaryFields,
                   state::KeywordListFields,
                   state::PageReportFields,
+                  state::AnalysisResultFields,
                   state::PageEncoderFields,
                   state::MetaTagPanelFields {
   explicit AppState(state::Platform& p, file_io::FileSystem& f = file_io::RealFileSystem())

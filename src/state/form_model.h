@@ -99,6 +99,8 @@ struct FormModel {
 
   // Set when the program has ended ("&Quit", closing the window); the view then closes.
   bool ProgramHasEnded = false;
+  // Set by "&Help" > "About"; the view shows the about box and clears it.
+  bool AboutBoxRequested = false;
 };
 
 }  // namespace zentrel::state

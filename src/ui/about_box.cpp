@@ -8,7 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "app/startup.h"
+#include "commands/startup.h"
 
 namespace zentrel::ui {
 
@@ -22,11 +22,11 @@ QLayout* Heading(QWidget* parent, bool withVersion) {
                       .scaled(64, 64, Qt::KeepAspectRatio, Qt::SmoothTransformation));
   row->addWidget(icon, 0, Qt::AlignTop);
   auto* names = new QVBoxLayout;
-  auto* title =
-      new QLabel(withVersion ? QLatin1String(app::kProgramName)
-                             : QStringLiteral("%1 %2").arg(QLatin1String(app::kProgramName),
-                                                           QLatin1String(app::kProgramVersion)),
-                 parent);
+  auto* title = new QLabel(
+      withVersion ? QLatin1String(commands::kProgramName)
+                  : QStringLiteral("%1 %2").arg(QLatin1String(commands::kProgramName),
+                                                QLatin1String(commands::kProgramVersion)),
+      parent);
   title->setObjectName(QStringLiteral("ProgramTitle"));
   QFont font = title->font();
   font.setPointSizeF(font.pointSizeF() * 1.6);
@@ -34,7 +34,7 @@ QLayout* Heading(QWidget* parent, bool withVersion) {
   title->setFont(font);
   names->addWidget(title);
   if (withVersion) {
-    auto* version = new QLabel(QLatin1String(app::kProgramVersion), parent);
+    auto* version = new QLabel(QLatin1String(commands::kProgramVersion), parent);
     version->setObjectName(QStringLiteral("ProgramVersion"));
     names->addWidget(version);
   }
@@ -63,7 +63,7 @@ QString ProgramDescription() {
 
 frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("frmAbout"));
-  setWindowTitle(QStringLiteral("About %1").arg(QLatin1String(app::kProgramName)));
+  setWindowTitle(QStringLiteral("About %1").arg(QLatin1String(commands::kProgramName)));
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(Heading(this, true));
   layout->addWidget(Description(this));
@@ -74,7 +74,7 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
 
 Frm_SplashScreen::Frm_SplashScreen(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("Frm_SplashScreen"));
-  setWindowTitle(QLatin1String(app::kProgramName));
+  setWindowTitle(QLatin1String(commands::kProgramName));
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(Heading(this, false));
   layout->addWidget(Description(this));

@@ -12,10 +12,11 @@
 #include <QTabWidget>
 #include <QUrl>
 #include <algorithm>
+#include <utility>
 
-#include "app/control_table.h"
-#include "app/page_loading.h"
-#include "app/startup.h"
+#include "commands/control_table.h"
+#include "commands/page_loading.h"
+#include "commands/startup.h"
 #include "ui/about_box.h"
 #include "ui/edit_page_tab.h"
 #include "ui/meta_tags_tab.h"
@@ -86,14 +87,8 @@ void MainWindow::BuildMenus() {
 
   QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
   help->setObjectName(QStringLiteral("mnu_Help"));
-  QAction* docs = help->addAction(QStringLiteral("Docs"));
-  docs->setObjectName(QStringLiteral("mnu_Help_Docs"));
-  connect(docs, &QAction::triggered, this, [this] {
-    Sync([](AppState& s) { s.platform->OpenDocument(s.ProgramFolder + "/docs/index.htm"); });
-  });
-  QAction* about = help->addAction(QStringLiteral("About"));
-  about->setObjectName(QStringLiteral("mnu_Help_About"));
-  connect(about, &QAction::triggered, this, &MainWindow::ShowAbout);
+  command(help, "mnu_Help_Docs", QStringLiteral("Docs"));
+  command(help, "mnu_Help_About", QStringLiteral("About"));
 
   // Keys without a menu entry of their own.
   auto key = [this](const char* name, const QKeySequence& keys, std::function<void()> slot) {
@@ -125,7 +120,7 @@ void MainWindow::PlaceWindow() {
   f.Width = std::min(1120.0, screen.width() * 0.94);
   f.Height = std::min(780.0, screen.height() * 0.92);
   resize(static_cast<int>(f.Width), static_cast<int>(f.Height));
-  Sync(app::Form_Load);
+  Sync(commands::Form_Load);
   move(screen.x() + static_cast<int>(f.Left), screen.y() + static_cast<int>(f.Top));
 }
 
@@ -134,21 +129,23 @@ void MainWindow::Sync(const std::function<void(AppState&)>& command) {
   if (running_)
     return;
   running_ = true;
-  app::Run_Guarded(s_, [this](AppState&) { bind_.Pull(); });
+  commands::Run_Guarded(s_, [this](AppState&) { bind_.Pull(); });
   if (command)
-    app::Run_Guarded(s_, command);
+    commands::Run_Guarded(s_, command);
   bind_.Push();
   running_ = false;
+  if (std::exchange(s_.Form.AboutBoxRequested, false))
+    ShowAbout();
   if (s_.Form.ProgramHasEnded)
     close();
 }
 
 void MainWindow::Run(const std::string& name) {
-  Sync([&name](AppState& s) { app::Dispatch(s, name); });
+  Sync([&name](AppState& s) { commands::Dispatch(s, name); });
 }
 
 void MainWindow::LoadDroppedFile(const std::string& path) {
-  Sync([&path](AppState& s) { app::Load_Chosen_Page(s, path); });
+  Sync([&path](AppState& s) { commands::Load_Chosen_Page(s, path); });
 }
 
 void MainWindow::ShowAbout() {
@@ -171,9 +168,9 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     return;
   }
   if (!s_.Form.ProgramHasEnded) {
-    app::Run_Guarded(s_, [this](AppState& s) {
+    commands::Run_Guarded(s_, [this](AppState& s) {
       bind_.Pull();
-      app::ProgramEnded(s);
+      commands::ProgramEnded(s);
     });
   }
   if (about_)

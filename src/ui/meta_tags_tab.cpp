@@ -12,7 +12,7 @@
 #include <QVBoxLayout>
 #include <array>
 
-#include "metatags/meta_tag_panel.h"
+#include "commands/edit_meta_tags.h"
 #include "state/app_state.h"
 
 namespace zentrel::ui {
@@ -47,7 +47,7 @@ MetaTagsTab::MetaTagsTab(View& v, QWidget* parent) : QWidget(parent) {
     grid->addWidget(label, i, 1);
     auto* field = MakeLineEdit(v, this, "MetaTag_TextBox" + suffix, &f.MetaTag_TextBox[index],
                                [i](AppState& s, const std::string& text) {
-                                 metatags::Set_MetaTag_TextBox(s, static_cast<int16_t>(i), text);
+                                 commands::Set_MetaTag_TextBox(s, static_cast<int16_t>(i), text);
                                });
     v.bind.ToolTip(field, &f.MetaTag_TextBox_ToolTip[index]);
     label->setBuddy(field);

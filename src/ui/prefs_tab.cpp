@@ -12,8 +12,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "commands/prefs.h"
 #include "state/app_state.h"
-#include "words/dictionary_commands.h"
 
 namespace zentrel::ui {
 
@@ -88,7 +88,7 @@ QGroupBox* DecoderPrefs(View& v, QWidget* parent) {
   auto* row = new QHBoxLayout;
   auto* stops = MakeLineEdit(v, box, "HtmlDecodePref_WordDecodeStopCHR_TextBox",
                              &f.HtmlDecodePref_WordDecodeStopCHR_TextBox,
-                             words::Set_HtmlDecodePref_WordDecodeStopCHR_TextBox);
+                             commands::Set_HtmlDecodePref_WordDecodeStopCHR_TextBox);
   stops->setFont(FixedFont());
   row->addWidget(stops, 1);
   row->addWidget(MakeButton(v, box, "HtmlDecodePref_WordDecodeStopCHR_Button", "Defaults"));

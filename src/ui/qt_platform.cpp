@@ -7,7 +7,7 @@
 #include <QMessageBox>
 #include <QUrl>
 
-#include "app/startup.h"
+#include "commands/startup.h"
 #include "ui/text_codec.h"
 
 namespace zentrel::ui {
@@ -28,7 +28,7 @@ bool QtPlatform::AskYesNo(const std::string& title, const std::string& text) {
 }
 
 void QtPlatform::ShowMessage(const std::string& text) {
-  QMessageBox box(QMessageBox::Information, QString::fromLatin1(app::kProgramName),
+  QMessageBox box(QMessageBox::Information, QString::fromLatin1(commands::kProgramName),
                   QString::fromLocal8Bit(text), QMessageBox::Ok, owner_);
   box.exec();
 }

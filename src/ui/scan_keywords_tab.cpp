@@ -11,7 +11,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "analysis/report_export.h"
+#include "commands/scan_keywords.h"
+#include "commands/view_body_report.h"
 #include "state/app_state.h"
 
 namespace zentrel::ui {
@@ -42,7 +43,7 @@ ScanKeywordsTab::ScanKeywordsTab(View& v, QWidget* parent) : QWidget(parent) {
   top->addSpacing(16);
   top->addWidget(MakeLabel(this, QStringLiteral("Additional Keywords")));
   auto* keywords = MakeLineEdit(v, this, "Users_METATAGS_TextBox", &f.Users_METATAGS_TextBox,
-                                analysis::Set_Users_METATAGS_TextBox);
+                                commands::Set_Users_METATAGS_TextBox);
   keywords->setPlaceholderText(QStringLiteral("more keywords, separated by commas"));
   top->addWidget(keywords, 1);
   top->addWidget(MakeButton(v, this, "Users_METATAGS_Clear_Command", "clear"));

@@ -22,33 +22,31 @@ std::string Standard_Dictionary_Path(const AppState& s) {
   return s.ProgramFolder + "/dictionary/Zentrel_Standard.txt";
 }
 
-void Load_Word_Filter_Dictionary(AppState& s, const std::string& path,
-                                 const std::string& textToAppendTo) {
+std::optional<std::string> Read_Filter_Dictionary(const std::string& path,
+                                                  const std::string& textToAppendTo) {
   if (path.empty() || !file_io::FileExists(path))
-    return;
+    return std::nullopt;
   std::string content;
   try {
     content = file_io::ReadWholeFile(path);
   } catch (const file_io::FileError&) {
-    return;  // a folder or an unreadable file loads nothing, like a missing one
+    return std::nullopt;  // a folder or an unreadable file loads nothing, like a missing one
   }
-  std::string box = textToAppendTo;
-  file_io::ReadListItems(content, [&box](std::string_view item) {
-    box += item;
-    box += text::kCrLf;
+  std::string text = textToAppendTo;
+  file_io::ReadListItems(content, [&text](std::string_view item) {
+    text += item;
+    text += text::kCrLf;
   });
-  s.Form.WordFiltersPage_WordDictionary = std::move(box);
+  return text;
 }
 
-void Save_Word_Filter_Dictionary(AppState& s, const std::string& path) {
-  if (path.empty())
-    return;
-  file_io::WriteFileAtomic(path, s.Form.WordFiltersPage_WordDictionary + std::string(text::kCrLf),
-                           *s.files);
+void Start_Filter_List(AppState& s) {
+  s.FilterCapacity = kFilterWordsStart;
+  AllocateFilterWords(s);
 }
 
-void Resort_And_Removed_Doubles_From_Filter_Dictionary(AppState& s) {
-  std::string all = text::LCase(s.Form.WordFiltersPage_WordDictionary);
+void Rebuild_Filter_List(AppState& s, std::string_view words) {
+  std::string all = text::LCase(words);
   AllocateFilterWords(s);
   s.FilterCount = 0;
   all += text::kCrLf;
@@ -62,7 +60,6 @@ void Resort_And_Removed_Doubles_From_Filter_Dictionary(AppState& s) {
   }
   Sort_Filter_Word_Dictionary(s);
   Remove_Doubles_Filter_Word_Dictionary(s);
-  SetWordFilter_TextBoxes(s);
 }
 
 void Add_Word_Filter(AppState& s, const std::string& word) {
@@ -103,38 +100,17 @@ void Remove_Doubles_Filter_Word_Dictionary(AppState& s) {
   s.FilterCount = ToInt16(o);
 }
 
-void Build_Filter_Word_Dictionary(AppState& s) {
-  s.FilterCapacity = kFilterWordsStart;
-  AllocateFilterWords(s);
-  Load_Word_Filter_Dictionary(s, Standard_Dictionary_Path(s), "");
-  Resort_And_Removed_Doubles_From_Filter_Dictionary(s);
-  SetWordFilter_TextBoxes(s);
-}
-
-void Load_Default_Word_Filters(AppState& s, const std::string& path) {
-  s.FilterDictionaryFile = path;
-  s.Form.WordFiltersPage_SelectDefaultWordDictionary_Text = path;
-  Load_Word_Filter_Dictionary(s, path, "");
-  Resort_And_Removed_Doubles_From_Filter_Dictionary(s);
-}
-
-void SetWordFilter_TextBoxes(AppState& s) {
-  std::string box;
+std::string Filter_Words_Text(const AppState& s, std::string_view after) {
+  std::string out;
   for (int32_t i = 0; i < s.FilterCount; ++i) {
-    box += At(s.FilterWords, i);
-    box += text::kCrLf;
+    out += At(s.FilterWords, i);
+    out += after;
   }
-  s.Form.WordFiltersPage_WordDictionary = std::move(box);
+  return out;
 }
 
 void Build_Filter_Words_Text(AppState& s) {
-  std::string filter = " ";
-  for (int32_t i = 0; i < s.FilterCount; ++i) {
-    filter += At(s.FilterWords, i);
-    filter += ' ';
-  }
-  filter += ' ';  // the empty slot at the count
-  s.FilterWordsText = std::move(filter);
+  s.FilterWordsText = " " + Filter_Words_Text(s, " ") + " ";  // " " for the slot at the count
 }
 
 }  // namespace zentrel::words

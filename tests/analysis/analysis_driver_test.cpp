@@ -105,8 +105,19 @@ TEST(Meta_Tag_KeyWord_Scan, RunTimeErrorsEndOneAnalysisOnly) {
   std::string many = "k0";
   for (int i = 1; i < 1002; ++i)
     many += ",k" + std::to_string(i);
+  // The boxes stand as far as the analysis got: the raw body is decoded before the keywords
+  // overrun their split, the matches and the report would come after it.
+  a.s.ViewBodyShowRaw = 1;
+  a.s.Form.ScanKeyWords_DocumentWordCount_TextBox = "before";
+  a.s.Form.ScanKeyWords_KeyWordMatches_TextBox = "before";
+  a.s.Form.ReportTextBox = "before";
   EXPECT_THROW(a.Page(KeywordPage(many)), RunTimeError);
   EXPECT_EQ(a.platform.busyDepth, 0);
+  EXPECT_EQ(a.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox, "text ");
+  EXPECT_EQ(a.s.Form.ScanKeyWords_DocumentWordCount_TextBox, "");
+  EXPECT_EQ(a.s.Form.ScanKeyWords_KeyWordMatches_TextBox, "before");
+  EXPECT_EQ(a.s.Form.ReportTextBox, "before");
+  a.s.ViewBodyShowRaw = 0;
   a.File("analysis_shoes.html");
   EXPECT_EQ(a.s.Form.ReportTextBox, testing::ReadTestData("analysis_shoes.report"));
 }

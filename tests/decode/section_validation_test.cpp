@@ -56,18 +56,5 @@ TEST(HTML_VALIDATE_Document_Sections, FirstFailingCheckWinsAndComparisonsAreStri
             "HEAD Tag </HEAD> NOT allowed Between <BODY> & </BODY> tags");
 }
 
-TEST(Html_Copy_Section_To_Temp, CopiesNonZeroBytesInclusiveOnlyWhenFromBeforeTo) {
-  DecodeState d;
-  AppState& s = d.s;
-  d.Put("<head><meta x>\r\n<title>");
-  document::Html_Clear_Cache_Section(s, 6, 14);
-  s.RebuildBytes.assign(30, '.');
-  EXPECT_EQ(Html_Copy_Section_To_Temp(s, 0, 22, 2), 2 + 6 + 7);
-  EXPECT_EQ(std::string(s.RebuildBytes.begin(), s.RebuildBytes.begin() + 16), "..<head><title>.");
-  EXPECT_EQ(Html_Copy_Section_To_Temp(s, 3, 3, 9), 9);  // one byte is not copied
-  s.RebuildBytes.assign(3, '.');
-  EXPECT_THROW(Html_Copy_Section_To_Temp(s, 0, 5, 0), RunTimeError);
-}
-
 }  // namespace
 }  // namespace zentrel::decode

@@ -4,11 +4,11 @@
 
 #include <cstdlib>
 
-#include "analysis/analysis_driver.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "commands/scan_keywords.h"
+#include "commands/word_filters.h"
 #include "fuzz_session.h"
-#include "words/filter_dictionary.h"
 
 using namespace zentrel;
 
@@ -51,12 +51,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   Apply_Settings(s, bits);
   if (noFilter) {
     s.Form.WordFiltersPage_WordDictionary.clear();
-    words::Resort_And_Removed_Doubles_From_Filter_Dictionary(s);
+    commands::Resort_And_Removed_Doubles_From_Filter_Dictionary(s);
   }
   s.UsersKeywordsText = in.Piece(64);
   fuzz::Put_Page(s, in.Rest());
   try {
-    analysis::Meta_Tag_KeyWord_Scan(s, "fuzz.html");
+    commands::Meta_Tag_KeyWord_Scan(s, "fuzz.html");
   } catch (const RunTimeError&) {
     return 0;  // a defined outcome
   }

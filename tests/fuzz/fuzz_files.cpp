@@ -2,12 +2,12 @@
 
 #include <fstream>
 
-#include "app/preferences.h"
 #include "base/run_time_error.h"
+#include "commands/edit_meta_tags.h"
+#include "commands/preferences.h"
+#include "commands/word_filters.h"
 #include "fuzz_session.h"
-#include "metatags/meta_tag_panel.h"
 #include "metatags/tag_list_file.h"
-#include "words/filter_dictionary.h"
 
 using namespace zentrel;
 
@@ -18,17 +18,17 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   std::ofstream(path, std::ios::binary | std::ios::trunc) << bytes;
   AppState& s = fuzz::Started_State();
   try {
-    app::LoadPreferencesFile(s, path);
+    commands::LoadPreferencesFile(s, path);
   } catch (const RunTimeError&) {
   }
   try {
-    metatags::MetaTagFunctions_MArk_ALL_Checkboxes_Click(s);
-    metatags::Apply_MetaTag_List_Text(s, bytes);
+    commands::MetaTagFunctions_MArk_ALL_Checkboxes_Click(s);
+    commands::Apply_MetaTag_List_Text(s, bytes);
   } catch (const RunTimeError&) {
   }
   try {
-    words::Load_Word_Filter_Dictionary(s, path, "");
-    words::Resort_And_Removed_Doubles_From_Filter_Dictionary(s);
+    commands::Load_Word_Filter_Dictionary(s, path, "");
+    commands::Resort_And_Removed_Doubles_From_Filter_Dictionary(s);
     for (int i = 1; i < s.FilterCount; ++i) {
       fuzz::Require(
           s.FilterWords[static_cast<size_t>(i - 1)] < s.FilterWords[static_cast<size_t>(i)],

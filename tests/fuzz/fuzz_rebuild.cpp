@@ -14,10 +14,11 @@
 #include "base/file_io.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "commands/edit_meta_tags.h"
+#include "commands/page_saving.h"
 #include "decode/decoder.h"
 #include "decode/section_validation.h"
 #include "fuzz_session.h"
-#include "metatags/meta_tag_panel.h"
 #include "metatags/page_encoder.h"
 
 using namespace zentrel;
@@ -35,7 +36,7 @@ int32_t End_Of_Rewritten_Part(const AppState& s) {
 }
 
 std::string Rebuild(AppState& s, const std::string& target) {
-  if (!metatags::HTML_ENCODE_Document(s, target, 0))
+  if (!commands::HTML_ENCODE_Document(s, target, 0))
     return {};
   return file_io::ReadWholeFile(target);
 }
@@ -108,7 +109,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const std::string page = in.Rest();
   fuzz::Put_Page(s, page);
   for (int16_t i = 0; i < 13; ++i)
-    metatags::Set_MetaTag_TextBox(s, i, fields[static_cast<size_t>(i)]);
+    commands::Set_MetaTag_TextBox(s, i, fields[static_cast<size_t>(i)]);
   const std::string target = fuzz::Scratch_Path("rebuild.html");
   try {
     decode::HTML_ReScan_Document(s);

@@ -1,8 +1,8 @@
 // Arbitrary page text and search strings through "Find First" and "Find Next": the selection
 // always lies inside the text.
 
-#include "app/source_search.h"
 #include "base/run_time_error.h"
+#include "commands/edit_page.h"
 #include "fuzz_session.h"
 
 using namespace zentrel;
@@ -16,9 +16,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   for (int round = 0; round < 6; ++round) {
     s.Form.Html_Document_Editor_SearchText = needles[round % 3];
     if (round == 0) {
-      app::Html_Document_Editor_Find_Click(s);
+      commands::Html_Document_Editor_Find_Click(s);
     } else {
-      app::Html_Document_Editor_DOFindNext_Click(s);
+      commands::Html_Document_Editor_DOFindNext_Click(s);
     }
     const auto start = s.Form.Html_Document_Editor_SelStart;
     const auto length = s.Form.Html_Document_Editor_SelLength;

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <map>
 
-#include "app/startup.h"
+#include "commands/startup.h"
 #include "document/document_cache.h"
 
 namespace zentrel::fuzz {
@@ -16,7 +16,7 @@ AppState& Started_State() {
   static state::SilentPlatform platform;
   static const AppState started = [] {
     AppState s(platform);
-    app::Form_Load(s);
+    commands::Form_Load(s);
     return s;
   }();
   // Assigning into one long-lived state reuses its strings' storage: far fewer allocations

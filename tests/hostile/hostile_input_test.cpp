@@ -14,9 +14,9 @@
 #include <iostream>
 #include <optional>
 
-#include "app/control_table.h"
-#include "app/preferences.h"
-#include "app/startup.h"
+#include "commands/control_table.h"
+#include "commands/preferences.h"
+#include "commands/startup.h"
 #include "fake_platform.h"
 #include "heavy_inputs.h"
 #include "state/app_state.h"
@@ -172,13 +172,13 @@ class Hostile : public ::testing::Test {
     fs::copy(fs::current_path() / "dictionary", dir_.path() / "dictionary",
              fs::copy_options::recursive);
     state_.emplace(platform_);
-    app::Form_Load(*state_);
+    commands::Form_Load(*state_);
   }
 
   // "Load Page" through the window's command, answering the dialog with path.
   void Load(const std::string& path) {
     platform_.AnswerOpen(path);
-    app::Dispatch(*state_, "Command1");
+    commands::Dispatch(*state_, "Command1");
   }
 
   // Loads the page from a file, prints how long it took, expects its outcome, and then
@@ -231,7 +231,7 @@ TEST_F(Hostile, HeavyInputsEndInAReport) {
     SCOPED_TRACE(input.name);
     WriteFile(dir_.File("Zentrel_Pref.txt"), input.prefs());
     state_.emplace(platform_);
-    app::Form_Load(*state_);
+    commands::Form_Load(*state_);
     Load_Timed(input.name, input.page(), Outcome::Report);
   }
 }
@@ -264,7 +264,7 @@ TEST_F(Hostile, PreferencesFilesNeverStopTheProgram) {
   WriteFile(prefs, Repeat("FileLoaded:/x/page.html\r\n", 10000) + "Keywords_Sorted: 99999\r\n" +
                        "Keywords_MinMatches: 3\r\n");
   AppState s(platform_);
-  app::Form_Load(s);
+  commands::Form_Load(s);
   EXPECT_EQ(s.RecentFileCount, 5);
   EXPECT_EQ(s.KeywordsSortList, 1) << "the overflowing line keeps the default";
   EXPECT_EQ(s.KeywordsUseMinMatches, 3);

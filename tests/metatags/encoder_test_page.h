@@ -7,6 +7,7 @@
 #include <set>
 #include <string>
 
+#include "commands/page_loading.h"
 #include "decode/meta_tag_table.h"
 #include "document/document_cache.h"
 #include "document/tag_scanner.h"
@@ -28,8 +29,7 @@ struct EncoderTestPage {
   std::string Load(const std::string& dataName) {
     std::string path = folder.File(dataName);
     WriteFile(path, ReadTestData(dataName));
-    s.CurrentFileName = path;
-    s.DocumentLength = document::DO_LOAD_File_TO_CACHE(s, path);
+    s.DocumentLength = commands::Load_File_To_Cache(s, path, 1);
     return path;
   }
 

@@ -4,12 +4,15 @@
 
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "commands/edit_meta_tags.h"
+#include "commands/page_saving.h"
 #include "encoder_test_page.h"
-#include "metatags/meta_tag_panel.h"
 
 namespace zentrel::metatags {
 namespace {
 
+using commands::HTML_ENCODE_Document;
+using commands::Set_MetaTag_TextBox;
 using testing::EncoderTestPage;
 using testing::ReadFile;
 using testing::ReadTestData;
@@ -30,6 +33,20 @@ TEST(Build_Meta_Tag, OnlyTheFirstAttributeIsTrimmed) {
   s.EncodeSwapContentAndNameOrder = 1;
   EXPECT_EQ(Build_Meta_Tag(s, "  lead", " robots "),
             "<META name=\"robots\" content=\"  lead\">\r\n");
+}
+
+TEST(Html_Copy_Section_To_Temp, CopiesNonZeroBytesInclusiveOnlyWhenFromBeforeTo) {
+  EncoderTestPage page;
+  AppState& s = page.s;
+  s.Form.Html_Document_Editor = "<head><meta x>\r\n<title>";
+  s.DocumentLength = document::Reload_File_From_Memory_TO_Cache(s);
+  document::Html_Clear_Cache_Section(s, 6, 14);
+  s.RebuildBytes.assign(30, '.');
+  EXPECT_EQ(Html_Copy_Section_To_Temp(s, 0, 22, 2), 2 + 6 + 7);
+  EXPECT_EQ(std::string(s.RebuildBytes.begin(), s.RebuildBytes.begin() + 16), "..<head><title>.");
+  EXPECT_EQ(Html_Copy_Section_To_Temp(s, 3, 3, 9), 9);  // one byte is not copied
+  s.RebuildBytes.assign(3, '.');
+  EXPECT_THROW(Html_Copy_Section_To_Temp(s, 0, 5, 0), RunTimeError);
 }
 
 TEST(HTML_ENCODE_Document, FullSetOfFieldsInBothOrders) {

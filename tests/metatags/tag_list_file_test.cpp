@@ -3,16 +3,20 @@
 #include <gtest/gtest.h>
 
 #include "base/run_time_error.h"
+#include "commands/edit_meta_tags.h"
 #include "decode/meta_tag_table.h"
 #include "fake_platform.h"
 #include "full_disk.h"
-#include "metatags/meta_tag_panel.h"
 #include "state/app_state.h"
 #include "test_files.h"
 
 namespace zentrel::metatags {
 namespace {
 
+using commands::Apply_MetaTag_List_Text;
+using commands::Load_MetaTagList;
+using commands::Save_MetaTag_List;
+using commands::Set_MetaTag_TextBox;
 using testing::ReadFile;
 
 struct Panel {

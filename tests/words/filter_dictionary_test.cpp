@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "commands/word_filters.h"
 #include "fake_platform.h"
 #include "state/app_state.h"
 #include "test_files.h"
@@ -9,6 +10,9 @@
 namespace zentrel::words {
 namespace {
 
+using commands::Load_Word_Filter_Dictionary;
+using commands::Resort_And_Removed_Doubles_From_Filter_Dictionary;
+using commands::Save_Word_Filter_Dictionary;
 using Words = std::vector<std::string>;
 
 struct Dictionary {

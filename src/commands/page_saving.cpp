@@ -1,0 +1,116 @@
+#include "commands/page_saving.h"
+
+#include <filesystem>
+#include <string_view>
+
+#include "base/file_io.h"
+#include "commands/page_loading.h"
+#include "commands/startup.h"
+#include "document/document_cache.h"
+#include "metatags/page_encoder.h"
+#include "state/app_state.h"
+
+namespace zentrel::commands {
+
+namespace {
+
+constexpr const char* kRebuildSuffix = " - IGNORE this ERROR and REBUILD ANYWAY ? ";
+constexpr const char* kSaveSuffix = " - IGNORE this ERROR and SAVE ANYWAY ? ";
+
+// Once the encoder starts blanking tags in the cache, a failure must not leave the user with a
+// half-blanked page: the cache is rebuilt from the text, which the blanking never touches.
+class CacheRestore {
+ public:
+  explicit CacheRestore(AppState& s) : s_(s) {}
+  ~CacheRestore() {
+    if (!armed_)
+      return;
+    document::Fill_Document_Cache(s_, s_.DocumentText, 1);
+    s_.DocumentLength = static_cast<int32_t>(s_.DocumentText.size());
+  }
+  CacheRestore(const CacheRestore&) = delete;
+  CacheRestore& operator=(const CacheRestore&) = delete;
+  void Dismiss() { armed_ = false; }
+
+ private:
+  AppState& s_;
+  bool armed_ = true;
+};
+
+// The rebuild's carrier file goes on every way out, errors included; something else standing
+// in its place (a FIFO, a device), which the writer refused to replace, stays.
+class TempFileRemover {
+ public:
+  TempFileRemover(file_io::FileSystem& fs, std::string path) : fs_(fs), path_(std::move(path)) {}
+  ~TempFileRemover() {
+    std::error_code ec;
+    if (!path_.empty() && std::filesystem::is_regular_file(path_, ec))
+      fs_.Unlink(path_);
+  }
+  TempFileRemover(const TempFileRemover&) = delete;
+  TempFileRemover& operator=(const TempFileRemover&) = delete;
+
+ private:
+  file_io::FileSystem& fs_;
+  std::string path_;
+};
+
+// The bytes just written are the current document: the text, the cache and the page source
+// editor take them from memory, as reading the file back would give them.
+void Take_Written_Page(AppState& s, int32_t written) {
+  const std::vector<uint8_t>& page = s.RebuildBytes;
+  s.DocumentText.assign(reinterpret_cast<const char*>(page.data()), page.size());
+  document::Fill_Document_Cache(s, s.DocumentText, 1);
+  s.DocumentLength = written;
+  s.Form.Html_Document_Editor = s.DocumentText;
+}
+
+}  // namespace
+
+bool HTML_ENCODE_Document(AppState& s, const std::string& fileName, int16_t rebuildFlag) {
+  state::BusyCursor busy(*s.platform);
+  s.DocumentLength = document::Reload_File_From_Memory_TO_Cache(s);
+  if (fileName.empty() || s.DocumentLength == 0)
+    return false;
+
+  const std::string error = metatags::Rescan_For_Encoding(s);
+  if (!error.empty()) {
+    const char* suffix = rebuildFlag != 0 ? kRebuildSuffix : kSaveSuffix;
+    if (!s.platform->AskYesNo("WARNING", "WARNING - " + error + suffix))
+      return false;
+  }
+
+  const std::string target =
+      rebuildFlag == 1 ? s.ProgramFolder + "/" + kTempDataFileName : fileName;
+  TempFileRemover removeTemp(*s.files, rebuildFlag == 1 ? target : std::string());
+  CacheRestore restore(s);
+  const int32_t written = metatags::Rebuild_Page(s);
+  const std::vector<uint8_t>& page = s.RebuildBytes;
+  file_io::WriteFileAtomic(
+      target, std::string_view(reinterpret_cast<const char*>(page.data()), page.size()), *s.files);
+  Take_Written_Page(s, written);
+  restore.Dismiss();
+  return true;
+}
+
+void Do_save(AppState& s) {
+  if (s.DocumentLength == 0)
+    return;
+  const std::optional<std::string> path = Choose_Page_File(s, true);
+  if (!path || path->empty())
+    return;
+  if (HTML_ENCODE_Document(s, *path, 0)) {
+    s.CurrentFileName = *path;
+    SET_PROGRAM_TITLE(s, *path);
+  }
+}
+
+std::string Do_Select_Save_File(AppState& s, const std::string& fileName, const std::string& filter,
+                                int16_t filterIndex, const std::string& defaultExt) {
+  state::FileDialog dialog{fileName, filter, filterIndex, defaultExt};
+  if (!s.platform->ShowSave(dialog))
+    return {};
+  return dialog.FileName;
+}
+
+}  // namespace zentrel::commands

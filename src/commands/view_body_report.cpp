@@ -1,0 +1,48 @@
+#include "commands/view_body_report.h"
+
+#include "base/file_io.h"
+#include "commands/page_saving.h"
+#include "state/app_state.h"
+
+namespace zentrel::commands {
+
+namespace {
+
+// Writes a text area's whole text, as it stands, to a file the user picks. A failed write is
+// shown; the atomic writer has left any old file of that name intact.
+void Save_Text_As(AppState& s, const std::string& text) {
+  std::string path = Do_Select_Save_File(s, "", "(*.txt)|*.txt|", 1, ".txt");
+  if (path.empty())
+    return;
+  try {
+    file_io::WriteFileAtomic(path, text, *s.files);
+  } catch (const file_io::FileError& e) {
+    s.platform->ShowMessage(e.what());
+  }
+}
+
+}  // namespace
+
+void PageReport_SAVEAS_Click(AppState& s) {
+  if (!s.Form.ReportTextBox.empty())
+    Do_Save_REPORT(s);
+}
+
+void Do_Save_REPORT(AppState& s) {
+  Save_Text_As(s, s.Form.ReportTextBox);
+}
+
+// No test for an empty text: an empty body is saved as an empty file.
+void ViewBody_SaveAs_Click(AppState& s) {
+  Save_Text_As(s, s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox);
+}
+
+void PageReport_Export_WordCount_CheckBox_Click(AppState& s) {
+  s.ReportExportWordCount = s.Form.PageReport_Export_WordCount_CheckBox;
+}
+
+void ViewBody_ShowRAWBODY_CHeckBox_Click(AppState& s) {
+  s.ViewBodyShowRaw = s.Form.ViewBody_ShowRAWBODY_CHeckBox;
+}
+
+}  // namespace zentrel::commands

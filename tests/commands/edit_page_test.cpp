@@ -1,0 +1,80 @@
+// "Find First" and "Find Next" on the "Edit Page" tab.
+
+#include "commands/edit_page.h"
+
+#include <gtest/gtest.h>
+
+#include "commands/control_table.h"
+#include "fake_platform.h"
+#include "state/app_state.h"
+
+namespace zentrel::commands {
+namespace {
+
+// One click of a search button and the selection it leaves as "start/length". A step may
+// first replace the page (as loaded, or only edited) or turn "Match Case" on.
+struct Step {
+  bool next;
+  std::string search, selection;
+  std::string page = "";
+  bool onlyEdited = false;
+  int16_t matchCase = 0;
+};
+
+void Search(const std::string& name, const std::string& page, const std::vector<Step>& steps) {
+  testing::FakePlatform platform;
+  AppState s(platform);
+  auto show = [&s](const std::string& text, bool onlyEdited) {
+    s.Form.Html_Document_Editor = text;
+    if (onlyEdited)
+      return;
+    s.DocumentText = text;
+    s.DocumentBytes.assign(text.begin(), text.end());
+    s.DocumentBytes.push_back(0);
+    s.DocumentLength = static_cast<int32_t>(text.size());
+  };
+  show(page, false);
+  int n = 0;
+  for (const Step& step : steps) {
+    SCOPED_TRACE(name + " step " + std::to_string(++n));
+    if (!step.page.empty())
+      show(step.page, step.onlyEdited);
+    s.Form.EditHtml_SearchCaseFlag = step.matchCase;
+    s.Form.Html_Document_Editor_SearchText = step.search;
+    ASSERT_TRUE(
+        Dispatch(s, step.next ? "Html_Document_Editor_DOFindNext" : "Html_Document_Editor_Find"));
+    EXPECT_EQ(std::to_string(s.Form.Html_Document_Editor_SelStart) + "/" +
+                  std::to_string(s.Form.Html_Document_Editor_SelLength),
+              step.selection);
+  }
+}
+
+TEST(HtmlEdit_Search_For_String, FindFirstAndFindNext) {
+  // Without "Match Case" a change of case only is the same search and goes on.
+  Search("case", "<html><title>Tools</title>",
+         {{false, "TITLE", "7/5"},
+          {true, "Title", "20/5"},
+          {false, "TITLE", "0/0", "", false, 1},  // not found: caret at the top
+          {false, "Tools", "13/5", "", false, 1}});
+  Search("wrap", "ab ab ab b",
+         {{false, "ab", "0/2"},
+          {true, "ab", "3/2"},
+          {true, "ab", "6/2"},
+          {true, "ab", "0/2"},
+          {true, "b", "1/1"}});  // a new text starts at the top
+  Search("overlap", "aaa", {{false, "aa", "0/2"}, {true, "aa", "1/2"}, {true, "aa", "0/2"}});
+  Search("empty", "one two one",
+         {{false, "one", "0/3"},
+          {true, "one", "8/3"},
+          {true, "", "8/3"},       // nothing changes
+          {true, "one", "0/3"}});  // and the next search starts again
+  // A page that lost the text since the last click never gives a negative selection.
+  Search("lost", "xx needle yy",
+         {{false, "needle", "3/6"}, {true, "needle", "0/0", "xx yy xx yy xx"}});
+  Search("shorter", "xx needle yy", {{false, "needle", "3/6"}, {true, "needle", "0/6", "needle"}});
+  // The text is searched as edited, not as loaded.
+  Search("edited", "<p>old</p>", {{false, "new", "3/3", "<p>new</p>", true}});
+}
+
+}  // namespace
+}  // namespace zentrel::commands
