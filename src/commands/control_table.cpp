@@ -12,6 +12,7 @@
 #include "commands/help_menu.h"
 #include "commands/prefs.h"
 #include "commands/scan_keywords.h"
+#include "commands/setting_boxes.h"
 #include "commands/view_body_report.h"
 #include "state/app_state.h"
 
@@ -25,15 +26,6 @@ std::vector<Control> Build_Control_Table() {
       {"Command1", Command1_Click},
       {"Command2", Command2_Click},
       {"Users_METATAGS_Clear_Command", Users_METATAGS_Clear_Command_Click},
-      {"KeyWords_SortList", KeyWords_SortList_Click},
-      {"KeyWords_RemoveDoubleKeyWordListings", KeyWords_RemoveDoubleKeyWordListings_Click},
-      {"KeyWords_ForceSameCaseMatching", KeyWords_ForceSameCaseMatching_Click},
-      {"KeyWords_MinKeyWordMatches_Option", KeyWords_MinKeyWordMatches_Option_Click},
-      {"KeyWords_MatchScanType_CheckBOx", KeyWords_MatchScanType_CheckBOx_Click},
-      {"KeyWordMatch_Disable_Part_Keyword_Matches",
-       KeyWordMatch_Disable_Part_Keyword_Matches_Click},
-      {"WordMatch_ForceCase", WordMatch_ForceCase_Click},
-      {"WordMatch_IgnoreAlphaNumericWords", WordMatch_IgnoreAlphaNumericWords_Click},
       // "Edit Meta Tags"
       {"MetaTagFunctions_ReThreadDocument", MetaTagFunctions_ReThreadDocument_Click},
       {"MetaTagFunctions_MArk_ALL_Checkboxes", MetaTagFunctions_MArk_ALL_Checkboxes_Click},
@@ -52,9 +44,7 @@ std::vector<Control> Build_Control_Table() {
       {"Picture2", Picture2_Click},
       // "View Body" and "Page Report"
       {"ViewBody_SaveAs", ViewBody_SaveAs_Click},
-      {"ViewBody_ShowRAWBODY_CHeckBox", ViewBody_ShowRAWBODY_CHeckBox_Click},
       {"PageReport_SAVEAS", PageReport_SAVEAS_Click},
-      {"PageReport_Export_WordCount_CheckBox", PageReport_Export_WordCount_CheckBox_Click},
       // "Edit Page"
       {"Html_Document_Editor_Find", Html_Document_Editor_Find_Click},
       {"Html_Document_Editor_DOFindNext", Html_Document_Editor_DOFindNext_Click},
@@ -71,17 +61,7 @@ std::vector<Control> Build_Control_Table() {
       {"WordFiltersPage_ResetDefaultWordDictionary_Button",
        WordFiltersPage_ResetDefaultWordDictionary_Button_Click},
       {"Defaults_Users_FileExtend_DropDown", Defaults_Users_FileExtend_DropDown_Click},
-      {"HtmlDecodePref_IncludeTitleWithBody_CheckBox",
-       HtmlDecodePref_IncludeTitleWithBody_CheckBox_Click},
-      {"HtmlDecodePref_IncludeALTTEXT_CheckBox", HtmlDecodePref_IncludeALTTEXT_CheckBox_Click},
-      {"HtmlDecodePref_IncludeBODYTEXT_CheckBox", HtmlDecodePref_IncludeBODYTEXT_CheckBox_Click},
-      {"HtmlDecodePref_IncludeMetaDizzyWithBody_CheckBox",
-       HtmlDecodePref_IncludeMetaDizzyWithBody_CheckBox_Click},
       {"HtmlDecodePref_WordDecodeStopCHR_Button", HtmlDecodePref_WordDecodeStopCHR_Button_Click},
-      {"MetaTagEncodePref_SwapContentAndNameOrder_CheckBox",
-       MetaTagEncodePref_SwapContentAndNameOrder_CheckBox_Click},
-      {"MetaTagEncodePref_UseComaSpaceBetweenKeyWords_CheckBox",
-       MetaTagEncodePref_UseComaSpaceBetweenKeyWords_CheckBox_Click},
       {"TagsOption_USE_META_TITLE", TagsOption_USE_META_TITLE_Click},
       {"Check2", Check2_Click},
       // "&File" and "&Help" menus
@@ -93,6 +73,11 @@ std::vector<Control> Build_Control_Table() {
       {"mnu_Help_Docs", mnu_Help_Docs_Click},
       {"mnu_Help_About", mnu_Help_About_Click},
   };
+  // The check boxes of the settings, from the settings table.
+  for (const state::Setting& row : state::Settings()) {
+    if (row.CheckBox)
+      t.push_back({std::string(row.Control), [&row](AppState& s) { Setting_Box_Click(s, row); }});
+  }
   for (int16_t i = 0; i < 5; ++i) {
     t.push_back({"mnu_file_QuickLoadFile" + std::to_string(i + 1),
                  [i](AppState& s) { mnu_file_QuickLoadFile_Click(s, i); }});

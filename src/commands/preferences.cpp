@@ -1,7 +1,9 @@
 #include "commands/preferences.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string_view>
+#include <vector>
 
 #include "base/file_io.h"
 #include "base/run_time_error.h"
@@ -14,53 +16,28 @@ namespace zentrel::commands {
 
 namespace {
 
-// How an entry's value is written and read.
-enum class Format {
-  Constant,      // written as a fixed text, ignored on input
-  RecentList,    // one line per recent page, oldest first
-  Number16,      // 16-bit option in signed number form
-  Number32,      // 32-bit option in signed number form
-  Bit0,          // 16-bit flag of which only bit 0 is kept on input
-  Text,          // text as it stands
-  ComaText,      // text whose commas are written as "&COMA&"
-  OptionalText,  // text, its line written only when not empty
-};
-
-struct Entry {
-  std::string_view Key;
-  Format Kind;
-  int16_t state::ShellFields::*Flag = nullptr;
-  int32_t state::ShellFields::*Number = nullptr;
-  std::string state::ShellFields::*Str = nullptr;
-  std::string_view Constant = {};
-};
+using state::Setting;
+using state::Stored;
 
 constexpr std::string_view kComa = "&COMA&";
+constexpr std::string_view kTitleKey = "ProgramTitle:";
+constexpr std::string_view kVersionKey = "ProgramVersion:";
+constexpr std::string_view kRecentKey = "FileLoaded:";
 
-// The entries in the order they are written; reading looks keys up in the same table.
-const Entry kEntries[] = {
-    {"ProgramTitle:", Format::Constant, nullptr, nullptr, nullptr, kProgramName},
-    {"ProgramVersion:", Format::Constant, nullptr, nullptr, nullptr, kProgramVersion},
-    {"FileLoaded:", Format::RecentList},
-    {"Keywords_Sorted:", Format::Number16, &state::ShellFields::KeywordsSortList},
-    {"Keywords_RemoveDuplicates:", Format::Number16, &state::ShellFields::KeywordsRemoveDoubles},
-    {"Keywords_ForceSameCaseMatching:", Format::Number16,
-     &state::ShellFields::KeywordsForceSameCase},
-    {"Keywords_MinMatches:", Format::Number16, &state::ShellFields::KeywordsUseMinMatches},
-    {"Keywords_NumberOfMinMatches:", Format::Number16, &state::ShellFields::KeywordsMinMatches},
-    {"Keywords_MatchingType:", Format::Number16, &state::ShellFields::KeywordsMatchScanType},
-    {"WordMatch_ForceSameCase:", Format::Number16, &state::ShellFields::WordMatchForceCase},
-    {"WordMatch_ForceAlphaNumeric:", Format::Number16,
-     &state::ShellFields::WordMatchIgnoreAlphaNumeric},
-    {"FileType:", Format::Text, nullptr, nullptr, &state::ShellFields::DefaultFileExtension},
-    {"FileTypeIndex:", Format::Number32, nullptr, &state::ShellFields::DefaultFileTypeIndex},
-    {"StopWordChrs:", Format::ComaText, nullptr, nullptr, &state::ShellFields::WordDelimiterChars},
-    {"SwapContentNameOrder:", Format::Bit0, &state::ShellFields::EncodeSwapContentAndNameOrder},
-    {"KeywordsComaSpace:", Format::Bit0, &state::ShellFields::EncodeComaSpaceBetweenKeywords},
-    {"IncludeMetaDizzy:", Format::Bit0, &state::ShellFields::DecodeIncludeMetaDescriptionWithBody},
-    {"DefaultWordFilterDictionary:", Format::OptionalText, nullptr, nullptr,
-     &state::ShellFields::FilterDictionaryFile},
-};
+// The settings kept in the file, in the file's order.
+const std::vector<const Setting*>& Stored_Settings() {
+  static const std::vector<const Setting*> rows = [] {
+    std::vector<const Setting*> kept;
+    for (const Setting& row : state::Settings()) {
+      if (row.Format != Stored::No)
+        kept.push_back(&row);
+    }
+    std::sort(kept.begin(), kept.end(),
+              [](const Setting* a, const Setting* b) { return a->FileOrder < b->FileOrder; });
+    return kept;
+  }();
+  return rows;
+}
 
 // A number read from the start of the value, rounded to nearest (halves to even).
 int64_t Read_Whole_Number(std::string_view value) {
@@ -71,72 +48,40 @@ int64_t Read_Whole_Number(std::string_view value) {
   return static_cast<int64_t>(rounded);
 }
 
-void Write_Entry(const AppState& s, const Entry& e, std::string& out) {
-  auto line = [&](std::string_view value) {
-    out.append(e.Key);
-    out.append(value);
-    out.append(text::kCrLf);
-  };
-  switch (e.Kind) {
-    case Format::Constant:
-      line(e.Constant);
-      break;
-    case Format::RecentList:
-      for (int i = s.RecentFileCount - 1; i >= 0; --i)
-        line(At(s.RecentFiles, i));
-      break;
-    case Format::Number16:
-    case Format::Bit0:
-      line(text::SignedNumber(s.*e.Flag));
-      break;
-    case Format::Number32:
-      line(text::SignedNumber(s.*e.Number));
-      break;
-    case Format::Text:
-      line(s.*e.Str);
-      break;
-    case Format::ComaText:
-      line(text::ReplaceAll(s.*e.Str, ",", kComa));
-      break;
-    case Format::OptionalText:
-      if (!(s.*e.Str).empty())
-        line(s.*e.Str);
-      break;
+std::string Value_Text(const AppState& s, const Setting& row) {
+  if (row.Flag)
+    return text::SignedNumber(s.*row.Flag);
+  if (row.Number)
+    return text::SignedNumber(s.*row.Number);
+  if (row.Format == Stored::ComaText)
+    return text::ReplaceAll(s.*row.Text, ",", kComa);
+  return s.*row.Text;
+}
+
+void Read_Value(AppState& s, const Setting& row, std::string_view value) {
+  if (row.Flag) {
+    const int16_t number = ToInt16(Read_Whole_Number(value));
+    s.*row.Flag = row.Format == Stored::Bit0 ? static_cast<int16_t>(number & 1) : number;
+  } else if (row.Number) {
+    s.*row.Number = ToInt32(Read_Whole_Number(value));
+  } else if (row.Format == Stored::ComaText) {
+    s.*row.Text = text::ReplaceAll(value, kComa, ",");
+  } else {
+    s.*row.Text = value;
   }
 }
 
-void Read_Entry(AppState& s, const Entry& e, std::string_view value) {
-  switch (e.Kind) {
-    case Format::Constant:
-      break;
-    case Format::RecentList:
-      Add_Recent_File(s, std::string(value));
-      break;
-    case Format::Number16:
-      s.*e.Flag = ToInt16(Read_Whole_Number(value));
-      break;
-    case Format::Bit0:
-      s.*e.Flag = static_cast<int16_t>(ToInt16(Read_Whole_Number(value)) & 1);
-      break;
-    case Format::Number32:
-      s.*e.Number = ToInt32(Read_Whole_Number(value));
-      break;
-    case Format::Text:
-    case Format::OptionalText:
-      s.*e.Str = value;
-      break;
-    case Format::ComaText:
-      s.*e.Str = text::ReplaceAll(value, kComa, ",");
-      break;
+// Reads one line's value into what its key names; unknown keys and the program's title and
+// version are ignored.
+void Read_Entry(AppState& s, std::string_view key, std::string_view value) {
+  if (key == kRecentKey) {
+    Add_Recent_File(s, std::string(value));
+    return;
   }
-}
-
-const Entry* Find_Entry(std::string_view key) {
-  for (const Entry& e : kEntries) {
-    if (e.Key == key)
-      return &e;
+  for (const Setting* row : Stored_Settings()) {
+    if (row->Key == key)
+      return Read_Value(s, *row, value);
   }
-  return nullptr;
 }
 
 }  // namespace
@@ -149,8 +94,19 @@ std::string Preferences_Path(const AppState& s) {
 
 void SavePreferencesFile(AppState& s) {
   std::string out;
-  for (const Entry& e : kEntries)
-    Write_Entry(s, e, out);
+  auto line = [&out](std::string_view key, std::string_view value) {
+    out.append(key);
+    out.append(value);
+    out.append(text::kCrLf);
+  };
+  line(kTitleKey, kProgramName);
+  line(kVersionKey, kProgramVersion);
+  for (int i = s.RecentFileCount - 1; i >= 0; --i)
+    line(kRecentKey, At(s.RecentFiles, i));
+  for (const Setting* row : Stored_Settings()) {
+    if (row->Format != Stored::OptionalText || !(s.*row->Text).empty())
+      line(row->Key, Value_Text(s, *row));
+  }
   file_io::WriteFileAtomic(Preferences_Path(s), out, *s.files);
 }
 
@@ -173,11 +129,10 @@ void LoadPreferencesFile(AppState& s, const std::string& path) {
   int skipped = 0;
   file_io::ReadListItems(content, [&](std::string_view item) {
     auto [key, value] = file_io::SplitPreferenceLine(item);
-    const Entry* entry = key.empty() ? nullptr : Find_Entry(key);
-    if (entry == nullptr)
+    if (key.empty())
       return;
     try {
-      Read_Entry(s, *entry, value);
+      Read_Entry(s, key, value);
     } catch (const RunTimeError& e) {
       if (skipped++ == 0)
         firstError = std::string(item) + ": " + e.what();

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "commands/page_loading.h"
 #include "commands/page_saving.h"
+#include "commands/setting_boxes.h"
 #include "commands/startup.h"
 #include "commands/word_filters.h"
 #include "state/app_state.h"
@@ -119,27 +120,27 @@ void Defaults_Users_FileExtend_DropDown_Click(AppState& s) {
 
 // Each box sets its flag only; the next analysis reads it.
 void HtmlDecodePref_IncludeTitleWithBody_CheckBox_Click(AppState& s) {
-  s.DecodeIncludeTitleWithBody = s.Form.HtmlDecodePref_IncludeTitleWithBody_CheckBox;
+  Setting_Box_Click(s, &state::FormModel::HtmlDecodePref_IncludeTitleWithBody_CheckBox);
 }
 
 void HtmlDecodePref_IncludeALTTEXT_CheckBox_Click(AppState& s) {
-  s.DecodeIncludeAltText = s.Form.HtmlDecodePref_IncludeALTTEXT_CheckBox;
+  Setting_Box_Click(s, &state::FormModel::HtmlDecodePref_IncludeALTTEXT_CheckBox);
 }
 
 void HtmlDecodePref_IncludeBODYTEXT_CheckBox_Click(AppState& s) {
-  s.DecodeIncludeBodyText = s.Form.HtmlDecodePref_IncludeBODYTEXT_CheckBox;
+  Setting_Box_Click(s, &state::FormModel::HtmlDecodePref_IncludeBODYTEXT_CheckBox);
 }
 
 void HtmlDecodePref_IncludeMetaDizzyWithBody_CheckBox_Click(AppState& s) {
-  s.DecodeIncludeMetaDescriptionWithBody = s.Form.HtmlDecodePref_IncludeMetaDizzyWithBody_CheckBox;
+  Setting_Box_Click(s, &state::FormModel::HtmlDecodePref_IncludeMetaDizzyWithBody_CheckBox);
 }
 
 void MetaTagEncodePref_SwapContentAndNameOrder_CheckBox_Click(AppState& s) {
-  s.EncodeSwapContentAndNameOrder = s.Form.MetaTagEncodePref_SwapContentAndNameOrder_CheckBox;
+  Setting_Box_Click(s, &state::FormModel::MetaTagEncodePref_SwapContentAndNameOrder_CheckBox);
 }
 
 void MetaTagEncodePref_UseComaSpaceBetweenKeyWords_CheckBox_Click(AppState& s) {
-  s.EncodeComaSpaceBetweenKeywords = s.Form.MetaTagEncodePref_UseComaSpaceBetweenKeyWords_CheckBox;
+  Setting_Box_Click(s, &state::FormModel::MetaTagEncodePref_UseComaSpaceBetweenKeyWords_CheckBox);
 }
 
 // The encoder reads this box itself at each run.
@@ -155,7 +156,7 @@ void Set_HtmlDecodePref_WordDecodeStopCHR_TextBox(AppState& s, const std::string
 
 // The word-break table follows at the next decode.
 void HtmlDecodePref_WordDecodeStopCHR_TextBox_Change(AppState& s) {
-  s.WordDelimiterChars = s.Form.HtmlDecodePref_WordDecodeStopCHR_TextBox;
+  Setting_Text_Box_Change(s, &state::FormModel::HtmlDecodePref_WordDecodeStopCHR_TextBox);
 }
 
 void HtmlDecodePref_WordDecodeStopCHR_Button_Click(AppState& s) {

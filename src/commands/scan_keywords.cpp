@@ -6,6 +6,7 @@
 #include "analysis/analysis_driver.h"
 #include "commands/edit_meta_tags.h"
 #include "commands/page_loading.h"
+#include "commands/setting_boxes.h"
 #include "commands/word_filters.h"
 #include "document/document_cache.h"
 #include "state/app_state.h"
@@ -74,37 +75,37 @@ void Users_METATAGS_Clear_Command_Click(AppState& s) {
   Set_Users_METATAGS_TextBox(s, "");
 }
 
-// Each box sets its flag only; the next analysis reads it.
+// Each box sets its setting only (the settings table says which); the next analysis reads it.
 void KeyWords_SortList_Click(AppState& s) {
-  s.KeywordsSortList = s.Form.KeyWords_SortList;
+  Setting_Box_Click(s, &state::FormModel::KeyWords_SortList);
 }
 
 void KeyWords_RemoveDoubleKeyWordListings_Click(AppState& s) {
-  s.KeywordsRemoveDoubles = s.Form.KeyWords_RemoveDoubleKeyWordListings;
+  Setting_Box_Click(s, &state::FormModel::KeyWords_RemoveDoubleKeyWordListings);
 }
 
 void KeyWords_ForceSameCaseMatching_Click(AppState& s) {
-  s.KeywordsForceSameCase = s.Form.KeyWords_ForceSameCaseMatching;
+  Setting_Box_Click(s, &state::FormModel::KeyWords_ForceSameCaseMatching);
 }
 
 void KeyWords_MinKeyWordMatches_Option_Click(AppState& s) {
-  s.KeywordsUseMinMatches = s.Form.KeyWords_MinKeyWordMatches_Option;
+  Setting_Box_Click(s, &state::FormModel::KeyWords_MinKeyWordMatches_Option);
 }
 
 void KeyWords_MatchScanType_CheckBOx_Click(AppState& s) {
-  s.KeywordsMatchScanType = s.Form.KeyWords_MatchScanType_CheckBOx;
+  Setting_Box_Click(s, &state::FormModel::KeyWords_MatchScanType_CheckBOx);
 }
 
 void KeyWordMatch_Disable_Part_Keyword_Matches_Click(AppState& s) {
-  s.KeywordsDisablePartMatches = s.Form.KeyWordMatch_Disable_Part_Keyword_Matches;
+  Setting_Box_Click(s, &state::FormModel::KeyWordMatch_Disable_Part_Keyword_Matches);
 }
 
 void WordMatch_ForceCase_Click(AppState& s) {
-  s.WordMatchForceCase = s.Form.WordMatch_ForceCase;
+  Setting_Box_Click(s, &state::FormModel::WordMatch_ForceCase);
 }
 
 void WordMatch_IgnoreAlphaNumericWords_Click(AppState& s) {
-  s.WordMatchIgnoreAlphaNumeric = s.Form.WordMatch_IgnoreAlphaNumericWords;
+  Setting_Box_Click(s, &state::FormModel::WordMatch_IgnoreAlphaNumericWords);
 }
 
 }  // namespace zentrel::commands

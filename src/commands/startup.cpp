@@ -6,7 +6,7 @@
 #include "commands/control_table.h"
 #include "commands/page_loading.h"
 #include "commands/preferences.h"
-#include "commands/prefs.h"
+#include "commands/setting_boxes.h"
 #include "commands/word_filters.h"
 #include "decode/meta_tag_table.h"
 #include "document/tag_scanner.h"
@@ -17,42 +17,12 @@ namespace zentrel::commands {
 
 namespace {
 
-constexpr int kMaxMinMatches = 99;
-
-void Set_Setting_Defaults(AppState& s) {
-  s.DefaultFileExtension = ".htm";
-  s.DefaultFileTypeIndex = 2;
-  s.WordMatchIgnoreAlphaNumeric = 1;
-  s.KeywordsDisablePartMatches = 1;
-  s.KeywordsSortList = 1;
-  s.KeywordsRemoveDoubles = 1;
-  s.KeywordsForceSameCase = 1;
-  s.KeywordsUseMinMatches = 0;
-  s.KeywordsMinMatches = 1;
-  s.KeywordsMatchScanType = 1;
-  s.DecodeIncludeBodyText = 1;
-  s.DecodeIncludeAltText = 1;
-  s.DecodeIncludeTitleWithBody = 1;
-  s.DecodeIncludeMetaDescriptionWithBody = 0;
-  s.EncodeSwapContentAndNameOrder = 0;
-  s.EncodeComaSpaceBetweenKeywords = 1;
-  s.ReportExportWordCount = 0;
-  s.ViewBodyShowRaw = 0;
-  // The first read of the preferences file is overwritten by the defaults, its recent pages
-  // included, so that the second read alone stands.
+// The settings take their defaults. The first read of the preferences file is overwritten
+// by them, its recent pages included, so that the second read alone stands.
+void Set_Defaults(AppState& s) {
+  state::Set_Setting_Defaults(s);
   s.RecentFiles = {};
   s.RecentFileCount = 0;
-}
-
-void Fill_Min_Matches_DropDown(AppState& s) {
-  state::DropDown& box = s.Form.KeyWords_MinKeyWordMatches_DropDown;
-  box.List.clear();
-  box.Text.clear();
-  for (int n = 1; n <= kMaxMinMatches; ++n) {
-    box.List.push_back(text::SignedNumber(n) + (n == 1 ? " Match" : " Matches"));
-    if (n == s.KeywordsMinMatches)
-      box.Text = box.List.back();
-  }
 }
 
 void Build_Letter_Table(AppState& s) {
@@ -83,7 +53,7 @@ constexpr Step kStartupSteps[] = {
     document::Build_Tag_list,
     Build_Filter_Word_Dictionary,
     [](AppState& s) {
-      Set_Setting_Defaults(s);
+      Set_Defaults(s);
       Reset_Default_Html_Word_Delimiter(s);
     },
     SET_CHeck_boxes,
@@ -123,29 +93,7 @@ void SET_PROGRAM_TITLE(AppState& s, const std::string& suffix) {
 }
 
 void Reset_Default_Html_Word_Delimiter(AppState& s) {
-  s.WordDelimiterChars = "\"#=<>^()[]{}/.,;:+-_*&!?@%";
-}
-
-void SET_CHeck_boxes(AppState& s) {
-  state::FormModel& f = s.Form;
-  f.WordMatch_ForceCase = s.WordMatchForceCase;
-  f.WordMatch_IgnoreAlphaNumericWords = s.WordMatchIgnoreAlphaNumeric;
-  f.KeyWordMatch_Disable_Part_Keyword_Matches = s.KeywordsDisablePartMatches;
-  f.KeyWords_SortList = s.KeywordsSortList;
-  f.KeyWords_RemoveDoubleKeyWordListings = s.KeywordsRemoveDoubles;
-  f.KeyWords_ForceSameCaseMatching = s.KeywordsForceSameCase;
-  f.KeyWords_MinKeyWordMatches_Option = s.KeywordsUseMinMatches;
-  Fill_Min_Matches_DropDown(s);
-  f.KeyWords_MatchScanType_CheckBOx = s.KeywordsMatchScanType;
-  f.HtmlDecodePref_IncludeBODYTEXT_CheckBox = s.DecodeIncludeBodyText;
-  f.HtmlDecodePref_IncludeALTTEXT_CheckBox = s.DecodeIncludeAltText;
-  f.HtmlDecodePref_IncludeTitleWithBody_CheckBox = s.DecodeIncludeTitleWithBody;
-  f.HtmlDecodePref_IncludeMetaDizzyWithBody_CheckBox = s.DecodeIncludeMetaDescriptionWithBody;
-  f.MetaTagEncodePref_SwapContentAndNameOrder_CheckBox = s.EncodeSwapContentAndNameOrder;
-  f.MetaTagEncodePref_UseComaSpaceBetweenKeyWords_CheckBox = s.EncodeComaSpaceBetweenKeywords;
-  f.PageReport_Export_WordCount_CheckBox = s.ReportExportWordCount;
-  f.ViewBody_ShowRAWBODY_CHeckBox = s.ViewBodyShowRaw;
-  Set_HtmlDecodePref_WordDecodeStopCHR_TextBox(s, s.WordDelimiterChars);
+  s.WordDelimiterChars = state::kDefaultWordDelimiters;
 }
 
 std::string Program_Folder(const std::string& executableFolder) {

@@ -18,7 +18,6 @@ bool Form_Load(AppState& s);
 bool Init_Programs_Defaults(AppState& s);
 void SET_PROGRAM_TITLE(AppState& s, const std::string& suffix);
 void Reset_Default_Html_Word_Delimiter(AppState& s);
-void SET_CHeck_boxes(AppState& s);
 // The program folder rule: the executable's folder with one trailing separator dropped.
 std::string Program_Folder(const std::string& executableFolder);
 void Form_Unload(AppState& s);

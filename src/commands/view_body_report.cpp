@@ -2,6 +2,7 @@
 
 #include "base/file_io.h"
 #include "commands/page_saving.h"
+#include "commands/setting_boxes.h"
 #include "state/app_state.h"
 
 namespace zentrel::commands {
@@ -38,11 +39,11 @@ void ViewBody_SaveAs_Click(AppState& s) {
 }
 
 void PageReport_Export_WordCount_CheckBox_Click(AppState& s) {
-  s.ReportExportWordCount = s.Form.PageReport_Export_WordCount_CheckBox;
+  Setting_Box_Click(s, &state::FormModel::PageReport_Export_WordCount_CheckBox);
 }
 
 void ViewBody_ShowRAWBODY_CHeckBox_Click(AppState& s) {
-  s.ViewBodyShowRaw = s.Form.ViewBody_ShowRAWBODY_CHeckBox;
+  Setting_Box_Click(s, &state::FormModel::ViewBody_ShowRAWBODY_CHeckBox);
 }
 
 }  // namespace zentrel::commands

@@ -11,12 +11,14 @@
 #include "state/form_model.h"
 #include "state/metatags_fields.h"
 #include "state/platform.h"
+#include "state/settings.h"
 #include "state/shell_fields.h"
 #include "state/words_fields.h"
 
 namespace zentrel {
 
 struct AppState : state::ShellFields,
+                  state::SettingsFields,
                   state::DocumentCacheFields,
                   state::TagScannerFields,
                   state::DecoderFields,

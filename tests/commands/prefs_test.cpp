@@ -188,7 +188,7 @@ TEST(EditWordFilters, CancelledDialogsChangeNothing) {
 // Every check box of the window copies itself into its own setting and no other.
 TEST(Prefs_CheckBoxes, EachClickCopiesItsBoxIntoItsSetting) {
   using F = state::FormModel;
-  using S = state::ShellFields;
+  using S = state::SettingsFields;
 #define BOX(name, setting) \
   { #name, &F::name, &S::setting }
   const std::tuple<const char*, int16_t F::*, int16_t S::*> pairs[] = {
