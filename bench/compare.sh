@@ -14,7 +14,7 @@ runs=${1:-10}
 # shellcheck source=bench/bench_tools.sh
 source bench/bench_tools.sh
 
-cmake --preset dev >/dev/null
+cmake --preset dev -DZENTREL_WITH_BENCH=ON >/dev/null
 cmake --build --preset dev --target zentrel-cli zentrel-baseline zentrel-bench-pages \
   zentrel-bench >/dev/null
 bin=build/dev/bin

@@ -14,7 +14,7 @@ runs=${1:-5}
 # shellcheck source=bench/bench_tools.sh
 source bench/bench_tools.sh
 
-cmake --preset dev >/dev/null
+cmake --preset dev -DZENTREL_WITH_BENCH=ON >/dev/null
 cmake --build --preset dev --target zentrel-cli zentrel-bench-pages >/dev/null
 cli=$(realpath "${2:-build/dev/bin/zentrel-cli}")
 inputs=build/dev/bench-heavy

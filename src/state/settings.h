@@ -53,7 +53,7 @@ enum class Stored {
 };
 
 struct Setting {
-  std::string_view Control;                       // the control that shows it, "" for none
+  std::string_view Control = {};                  // the control that shows it, "" for none
   int16_t FormModel::*CheckBox = nullptr;         // shown in a check box,
   DropDown FormModel::*MatchesList = nullptr;     // in the minimum-matches list,
   std::string FormModel::*TextBox = nullptr;      // or in a text box that writes it back
@@ -62,7 +62,7 @@ struct Setting {
   std::string SettingsFields::*Text = nullptr;    // or a text
   std::optional<int32_t> Default = std::nullopt;  // for a number; none: the defaults leave it
   const char* DefaultText = nullptr;              // for a text
-  std::string_view Key;                           // in the preferences file
+  std::string_view Key = {};                      // in the preferences file
   Stored Format = Stored::No;
   int FileOrder = 0;  // the place of its line among the settings' lines of that file
 };

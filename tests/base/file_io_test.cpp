@@ -29,8 +29,10 @@ class FailingFileSystem : public FileSystem {
   int MakeTemp(std::string& t) override { return Fail(kMakeTemp) ? -1 : FileSystem::MakeTemp(t); }
   ssize_t Write(int fd, const char* d, size_t n) override {
     if (step_ == kShortWrite) {  // one byte goes through, then the disk is full
-      if (wrote_)
-        return Fail(kShortWrite) ? -1 : -1;
+      if (wrote_) {
+        Fail(kShortWrite);  // sets errno
+        return -1;
+      }
       wrote_ = true;
       return FileSystem::Write(fd, d, 1);
     }
