@@ -18,6 +18,7 @@ class CliPlatform : public state::Platform {
   bool ShowSave(state::FileDialog&) override { return false; }
   bool AskYesNo(const std::string& title, const std::string& text) override;
   void ShowMessage(const std::string& text) override;
+  void ShowCritical(const std::string& text) override { ShowMessage(text); }
   void BeginBusy() override {}
   void EndBusy() override {}
   void DoEvents() override {}

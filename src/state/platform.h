@@ -29,6 +29,8 @@ class Platform {
   virtual bool AskYesNo(const std::string& title, const std::string& text) = 0;
   // A message box with an OK button.
   virtual void ShowMessage(const std::string& text) = 0;
+  // A message box for a fault of the program itself (a control without a handler).
+  virtual void ShowCritical(const std::string& text) = 0;
 
   // The busy pointer; calls nest (use BusyCursor).
   virtual void BeginBusy() = 0;

@@ -18,6 +18,7 @@ class SilentPlatform : public Platform {
   bool ShowSave(FileDialog&) override { return false; }
   bool AskYesNo(const std::string&, const std::string&) override { return true; }
   void ShowMessage(const std::string&) override {}
+  void ShowCritical(const std::string&) override {}
   void BeginBusy() override {}
   void EndBusy() override {}
   void DoEvents() override {}

@@ -28,6 +28,8 @@ QCheckBox* MakeCheck(View& v, QWidget* parent, const char* name, const char* cap
   v.bind.CheckBox(w, field);
   if (dispatch)
     QObject::connect(w, &QCheckBox::clicked, w, [&v, n = std::string(name)] { v.run(n); });
+  else
+    w->setProperty(kFormOnly, true);
   return w;
 }
 
@@ -46,6 +48,8 @@ QComboBox* MakeCombo(View& v, QWidget* parent, const char* name, state::DropDown
   v.bind.ComboBox(w, field);
   if (dispatch)
     QObject::connect(w, &QComboBox::activated, w, [&v, n = std::string(name)] { v.run(n); });
+  else
+    w->setProperty(kFormOnly, true);
   return w;
 }
 

@@ -27,6 +27,10 @@ struct View {
   std::function<void(const std::string&)> run;  // runs the named control's handler
 };
 
+// The property that marks a check box or drop-down without a handler of its own: the core
+// reads its value when another control runs.
+inline constexpr const char* kFormOnly = "zentrelFormOnly";
+
 // Qt reads "&" in a caption as a mnemonic; the system's captions mean the character itself.
 QString Caption(const char* text);
 

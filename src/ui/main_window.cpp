@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QTabWidget>
 #include <QUrl>
+#include <QtGlobal>
 #include <algorithm>
 #include <utility>
 
@@ -141,7 +142,14 @@ void MainWindow::Sync(const std::function<void(AppState&)>& command) {
 }
 
 void MainWindow::Run(const std::string& name) {
-  Sync([&name](AppState& s) { commands::Dispatch(s, name); });
+  lastRun_ = name;
+  Sync([&name](AppState& s) {
+    if (commands::Dispatch(s, name))
+      return;
+    const std::string message = "The control " + name + " has no handler.";
+    qCritical("%s", message.c_str());
+    s.platform->ShowCritical(message);
+  });
 }
 
 void MainWindow::LoadDroppedFile(const std::string& path) {

@@ -25,8 +25,11 @@ class MainWindow : public QMainWindow {
   explicit MainWindow(state::Platform& platform, QWidget* parent = nullptr);
   ~MainWindow() override;
 
-  // Runs the named control's handler as a click on it does.
+  // Runs the named control's handler as a click on it does; a name the control table does not
+  // know is a fault of the program, shown as one.
   void Run(const std::string& name);
+  // The name of the control whose click (or pick) ran last.
+  const std::string& LastRun() const { return lastRun_; }
   // Loads and analyses a page as "Load Page" does once the file is chosen (a dropped file).
   void LoadDroppedFile(const std::string& path);
   // What a drop on the window does: the first local file of the data is loaded.
@@ -55,6 +58,7 @@ class MainWindow : public QMainWindow {
   frmAbout* about_ = nullptr;
   Frm_SplashScreen* splash_ = nullptr;
   bool running_ = false;
+  std::string lastRun_;
 };
 
 }  // namespace zentrel::ui

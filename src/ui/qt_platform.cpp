@@ -33,6 +33,12 @@ void QtPlatform::ShowMessage(const std::string& text) {
   box.exec();
 }
 
+void QtPlatform::ShowCritical(const std::string& text) {
+  QMessageBox box(QMessageBox::Critical, QString::fromLatin1(commands::kProgramName),
+                  QString::fromLocal8Bit(text), QMessageBox::Ok, owner_);
+  box.exec();
+}
+
 void QtPlatform::BeginBusy() {
   QApplication::setOverrideCursor(Qt::WaitCursor);
 }

@@ -17,6 +17,7 @@ class QtPlatform : public state::Platform {
   bool ShowSave(state::FileDialog& dialog) override;
   bool AskYesNo(const std::string& title, const std::string& text) override;
   void ShowMessage(const std::string& text) override;
+  void ShowCritical(const std::string& text) override;
   void BeginBusy() override;
   void EndBusy() override;
   void DoEvents() override;

@@ -15,14 +15,7 @@
 namespace zentrel::commands {
 namespace {
 
-// Cancels every dialog and answers No to every question, so any control can be clicked.
-class CancellingPlatform : public testing::FakePlatform {
- public:
-  using FakePlatform::FakePlatform;
-  bool ShowOpen(state::FileDialog&) override { return false; }
-  bool ShowSave(state::FileDialog&) override { return false; }
-  bool AskYesNo(const std::string&, const std::string&) override { return false; }
-};
+using testing::CancellingPlatform;
 
 TEST(Dispatch, EveryControlRunsOnAFreshlyStartedProgram) {
   testing::ShellProgramFolder folder;

@@ -27,6 +27,7 @@ class FakePlatform : public state::Platform {
   bool ShowSave(state::FileDialog& dialog) override;
   bool AskYesNo(const std::string& title, const std::string& text) override;
   void ShowMessage(const std::string& text) override;
+  void ShowCritical(const std::string& text) override { criticals.push_back(text); }
   void BeginBusy() override {
     ++busyDepth;
     ++busyCount;
@@ -39,6 +40,7 @@ class FakePlatform : public state::Platform {
   std::string executableFolder;
   std::vector<std::string> questions;  // "TITLE: text"
   std::vector<std::string> messages;
+  std::vector<std::string> criticals;
   std::vector<state::FileDialog> dialogs;  // what each dialog was shown with
   std::vector<std::string> openedDocuments;
   int busyDepth = 0;
@@ -54,6 +56,15 @@ class FakePlatform : public state::Platform {
   };
   bool Dialog(state::FileDialog& dialog, Answer::Kind kind);
   std::deque<Answer> answers_;
+};
+
+// Cancels every dialog and answers No to every question, so any control can be worked.
+class CancellingPlatform : public FakePlatform {
+ public:
+  using FakePlatform::FakePlatform;
+  bool ShowOpen(state::FileDialog&) override { return false; }
+  bool ShowSave(state::FileDialog&) override { return false; }
+  bool AskYesNo(const std::string&, const std::string&) override { return false; }
 };
 
 }  // namespace zentrel::testing
