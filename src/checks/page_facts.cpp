@@ -107,7 +107,7 @@ class FactReader {
         mode_ = Mode::InHead;
       }
     } else if (t.name == "body" || t.name == "frameset") {
-      if (mode_ != Mode::InBody)
+      if (!facts_.bodyTag)
         facts_.bodyTag = t.begin;
       mode_ = Mode::InBody;
     } else if (InList(t.name, kHeadElements)) {

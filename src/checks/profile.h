@@ -22,6 +22,7 @@ class ProfileError : public std::runtime_error {
 struct RuleSetting {
   bool enabled = true;
   Severity severity = Severity::Warning;
+  bool operator==(const RuleSetting&) const = default;
 };
 
 inline constexpr size_t kRuleCount = static_cast<size_t>(Rule::DescriptionDuplicate) + 1;
