@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace zentrel::codec {
 
@@ -129,6 +130,13 @@ std::u32string ToCodePoints(std::string_view bytes, Codec codec) {
 
 bool IsValidUtf8(std::string_view s) {
   for (size_t i = 0; i < s.size();) {
+    // Runs of ASCII, which most pages are mostly made of, eight bytes at a time.
+    uint64_t word;
+    if (i + sizeof word <= s.size() &&
+        (std::memcpy(&word, s.data() + i, sizeof word), (word & 0x8080808080808080u) == 0)) {
+      i += sizeof word;
+      continue;
+    }
     const size_t length = SequenceAt(s, i);
     if (length == 0)
       return false;

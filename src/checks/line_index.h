@@ -23,9 +23,12 @@ class LineIndex {
   Position At(size_t offset) const;
 
  private:
+  void ScanTo(size_t end) const;
+
   std::string_view page_;
   bool utf8_;
-  std::vector<size_t> starts_;  // the offset of each line's first byte
+  mutable std::vector<size_t> starts_;  // the offset of each line's first byte, so far
+  mutable size_t scanned_ = 0;          // the bytes before it have been scanned
   mutable size_t lastStart_ = SIZE_MAX, lastOffset_ = 0;
   mutable int64_t lastColumn_ = 1;
 };

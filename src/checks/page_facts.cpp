@@ -94,40 +94,46 @@ class FactReader {
   }
 
   void Step(const Token& t) {
+    const std::string_view name = t.name;
     if (templates_ > 0) {
-      templates_ += t.name == "template";
+      templates_ += name == "template";
       return;
     }
-    if (t.name == "html") {
+    if (mode_ == Mode::InBody) {
+      if (name == "body" && !facts_.bodyTag)
+        facts_.bodyTag = t.begin;
+      return;
+    }
+    if (name == "html") {
       if (mode_ == Mode::BeforeHtml)
         mode_ = Mode::BeforeHead;
-    } else if (t.name == "head") {
+    } else if (name == "head") {
       if (mode_ == Mode::BeforeHtml || mode_ == Mode::BeforeHead) {
         facts_.headTag = t.begin;
         mode_ = Mode::InHead;
       }
-    } else if (t.name == "body" || t.name == "frameset") {
-      if (!facts_.bodyTag)
-        facts_.bodyTag = t.begin;
+    } else if (name == "body" || name == "frameset") {
+      facts_.bodyTag = t.begin;
       mode_ = Mode::InBody;
-    } else if (InList(t.name, kHeadElements)) {
+    } else if (InList(name, kHeadElements)) {
       if (mode_ == Mode::BeforeHtml || mode_ == Mode::BeforeHead)
         mode_ = Mode::InHead;
-      if (t.name == "template" && mode_ != Mode::InBody)
+      if (name == "template")
         templates_ = 1;
-    } else if (mode_ != Mode::InBody) {
+    } else {
       EndHead(t.begin, codec::ToUtf8("<" + t.name + ">", codec_));
     }
   }
 
   void EndTag(const Token& t) {
+    const std::string_view name = t.name;
     if (templates_ > 0) {
-      templates_ -= t.name == "template";
+      templates_ -= name == "template";
     } else if (mode_ == Mode::InBody) {
       return;
-    } else if (t.name == "head") {
+    } else if (name == "head") {
       mode_ = Mode::AfterHead;
-    } else if (t.name == "body" || t.name == "html" || t.name == "br") {
+    } else if (name == "body" || name == "html" || name == "br") {
       EndHead(t.begin, codec::ToUtf8("</" + t.name + ">", codec_));
     }
   }
@@ -138,24 +144,25 @@ class FactReader {
   }
 
   void Gather(const Token& t) {
-    if (t.name == "html") {
+    const std::string_view name = t.name;
+    if (name == "html") {
       if (!facts_.htmlTag)
         facts_.htmlTag = t.begin;
       facts_.lang = facts_.lang || !Folded(ValueOr(t, "lang")).empty();
-    } else if (t.name == "title") {
+    } else if (name == "title") {
       facts_.titles.push_back({t.begin, {}});
       titleText_ = &facts_.titles.back().text;
       Moved(t, "<title>");
-    } else if (t.name == "meta") {
+    } else if (name == "meta") {
       Meta(t);
-    } else if (t.name == "link") {
+    } else if (name == "link") {
       const std::string_view rel = ValueOr(t, "rel");
       if (HasToken(rel, "canonical"))
         facts_.canonicals.push_back({t.begin, ValueOr(t, "href")});
       Moved(t, "<link rel=\"" + Folded(rel) + "\">");
-    } else if (t.name == "h1") {
+    } else if (name == "h1") {
       facts_.h1s.push_back(t.begin);
-    } else if ((t.name == "img" || t.name == "image") && t.Find("alt") == nullptr) {
+    } else if ((name == "img" || name == "image") && t.Find("alt") == nullptr) {
       facts_.imagesWithoutAlt.push_back({t.begin, ValueOr(t, "src")});
     }
   }

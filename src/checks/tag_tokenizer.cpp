@@ -33,7 +33,7 @@ bool StartsWithFolded(std::string_view s, size_t at, std::string_view lower) {
 
 const std::string_view* Token::Find(std::string_view attributeName) const {
   for (const Attribute& a : attributes) {
-    if (a.name == attributeName)
+    if (std::string_view(a.name) == attributeName)
       return &a.value;
   }
   return nullptr;
@@ -97,18 +97,22 @@ void TagTokenizer::StartTag(Token& token, size_t nameStart) {
   Attributes(token, true);
   if (pos_ == token.begin)
     return;
-  const bool mathOrSvg = token.name == "svg" || token.name == "math";
+  const std::string_view name = token.name;
+  const bool mathOrSvg = name == "svg" || name == "math";
   if (token.foreign || mathOrSvg) {
     if (mathOrSvg && !token.selfClosing)
       ++foreignDepth_;
     return;
   }
-  if (token.name == "plaintext") {
+  if (name == "plaintext") {
     rawEnd_ = "\n";  // no end tag closes it: the rest of the page is text
     return;
   }
+  // Most tags are none of these: look at the list only for names of the right lengths.
+  if (token.name.size() < 3 || token.name.size() > 8)
+    return;
   for (std::string_view raw : kRawTextElements) {
-    if (token.name == raw)
+    if (name == raw)
       rawEnd_ = raw;
   }
 }
@@ -120,7 +124,7 @@ void TagTokenizer::EndTag(Token& token) {
     token.name.push_back(text::LowerAscii(page_[p++]));
   pos_ = p;
   Attributes(token, false);
-  if (foreignDepth_ > 0 && (token.name == "svg" || token.name == "math"))
+  if (foreignDepth_ > 0 && (std::string_view(token.name) == "svg" || token.name == "math"))
     token.foreign = --foreignDepth_ > 0;
 }
 
