@@ -31,6 +31,11 @@ constexpr std::string_view kHtmlMetaNames = "HTML Living Standard: standard meta
 constexpr std::string_view kHtmlMetaNamesUrl =
     "https://html.spec.whatwg.org/multipage/semantics.html#standard-metadata-names";
 
+constexpr std::string_view kCharset =
+    "HTML Living Standard: specifying the document's character encoding";
+constexpr std::string_view kCharsetUrl =
+    "https://html.spec.whatwg.org/multipage/semantics.html#charset";
+
 constexpr std::array<RuleInfo, 29> kRules = {{
     {Rule::TitleMissing, "title-missing", S::Error, "The page has no TITLE element.",
      "Search engines show the title as the link to the page; without one they make one up "
@@ -113,13 +118,11 @@ constexpr std::array<RuleInfo, 29> kRules = {{
      "The page does not declare its character encoding.",
      "Without a declaration (or a byte order mark), a browser guesses the encoding and may show "
      "the page's letters wrongly.",
-     "HTML Living Standard: specifying the document's character encoding",
-     "https://html.spec.whatwg.org/multipage/semantics.html#charset"},
+     kCharset, kCharsetUrl},
     {Rule::CharsetLate, "charset-late", S::Warning,
      "The encoding is declared too late in the page.",
      "Browsers look for the declaration in the first 1024 bytes only; a later one is not used.",
-     "HTML Living Standard: specifying the document's character encoding",
-     "https://html.spec.whatwg.org/multipage/semantics.html#charset"},
+     kCharset, kCharsetUrl},
     {Rule::LangMissing, "lang-missing", S::Warning, "The html element has no lang attribute.",
      "The page's language tells screen readers how to speak it and helps search engines serve it "
      "to the right readers.",
