@@ -29,12 +29,12 @@ constexpr std::string_view kStarterUrl =
     "https://developers.google.com/search/docs/fundamentals/seo-starter-guide";
 constexpr std::string_view kHtmlMetaNames = "HTML Living Standard: standard metadata names";
 constexpr std::string_view kHtmlMetaNamesUrl =
-    "https://html.spec.whatwg.org/multipage/semantics.html#standard-metadata-names";
+    "https://developer.mozilla.org/en-US/docs/Web/HTML/Element/meta/name";
 
 constexpr std::string_view kCharset =
     "HTML Living Standard: specifying the document's character encoding";
 constexpr std::string_view kCharsetUrl =
-    "https://html.spec.whatwg.org/multipage/semantics.html#charset";
+    "https://developer.mozilla.org/en-US/docs/Web/HTML/Element/meta#charset";
 
 constexpr std::array<RuleInfo, 29> kRules = {{
     {Rule::TitleMissing, "title-missing", S::Error, "The page has no TITLE element.",
@@ -47,7 +47,7 @@ constexpr std::array<RuleInfo, 29> kRules = {{
     {Rule::TitleMultiple, "title-multiple", S::Warning, "The page has more than one TITLE.",
      "Browsers and search engines use the first title only; the others are ignored.",
      "HTML Living Standard: the title element",
-     "https://html.spec.whatwg.org/multipage/semantics.html#the-title-element"},
+     "https://developer.mozilla.org/en-US/docs/Web/HTML/Element/title"},
     {Rule::TitleTooLong, "title-too-long", S::Warning,
      "The title is wider than a desktop result shows.",
      "Google shortens title links to the width of the results column, on desktop about 600 "
@@ -80,7 +80,7 @@ constexpr std::array<RuleInfo, 29> kRules = {{
      "every TITLE, META and LINK after that point in the body, where search engines do not "
      "read them as the page's own.",
      "HTML Living Standard: the \"in head\" insertion mode",
-     "https://html.spec.whatwg.org/multipage/parsing.html#parsing-main-inhead"},
+     "https://developer.mozilla.org/en-US/docs/Web/HTML/Element/head"},
     {Rule::MetaDuplicate, "meta-duplicate", S::Warning, "A META name is given twice.",
      "Two values for one name leave it to each reader which one counts.", kHtmlMetaNames,
      kHtmlMetaNamesUrl},
