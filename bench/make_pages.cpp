@@ -1,6 +1,7 @@
 // Writes the benchmark pages (100 KB, 1 MB, 4 MB) into a folder, for whole-process timing;
 // with --heavy, also each heavy input as NAME.html with its preferences file NAME.prefs, and
-// their list in heavy.list.
+// their list in heavy.list; with --site N, instead a site of N pages of 20 to 200 KB in
+// folders of 100, for lint.
 
 #include <filesystem>
 #include <fstream>
@@ -16,15 +17,31 @@ void Write(const std::filesystem::path& path, const std::string& bytes) {
   out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }
 
+// Pages of different contents and sizes spread evenly over 20..200 KB.
+void Write_Site(const std::filesystem::path& folder, int pages) {
+  for (int i = 0; i < pages; ++i) {
+    const std::filesystem::path section = folder / ("section-" + std::to_string(i / 100));
+    std::filesystem::create_directories(section);
+    const size_t kb = 20 + (static_cast<size_t>(i) * 2654435761u) % 181;
+    Write(section / ("page-" + std::to_string(i) + ".html"),
+          zentrel::bench::Generate_Page(kb * 1024, static_cast<unsigned>(i + 1)));
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   const bool heavy = argc == 3 && std::string(argv[1]) == "--heavy";
-  if (argc != 2 && !heavy) {
-    std::cerr << "usage: zentrel-bench-pages [--heavy] FOLDER\n";
+  const bool site = argc == 4 && std::string(argv[1]) == "--site";
+  if (argc != 2 && !heavy && !site) {
+    std::cerr << "usage: zentrel-bench-pages [--heavy | --site N] FOLDER\n";
     return 2;
   }
   const std::filesystem::path folder = argv[argc - 1];
+  if (site) {
+    Write_Site(folder, std::stoi(argv[2]));
+    return 0;
+  }
   std::filesystem::create_directories(folder);
   const std::pair<const char*, size_t> pages[] = {
       {"page-100k.html", 100 * 1024}, {"page-1m.html", 1024 * 1024}, {"page-4m.html", 4 << 20}};

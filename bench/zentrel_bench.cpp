@@ -1,5 +1,5 @@
-// The analysis as a whole and stage by stage, a rebuild-and-save, and the baseline: one pass
-// over the same bytes counting words with a 256-entry table.
+// The analysis as a whole and stage by stage, a rebuild-and-save, the checks of lint, and the
+// baseline: one pass over the same bytes counting words with a 256-entry table.
 
 #include <benchmark/benchmark.h>
 
@@ -10,6 +10,7 @@
 #include "analysis/keyword_list.h"
 #include "analysis/keyword_matching.h"
 #include "bench_session.h"
+#include "checks/page_checks.h"
 #include "commands/edit_meta_tags.h"
 #include "commands/page_saving.h"
 #include "commands/scan_keywords.h"
@@ -62,6 +63,14 @@ void BM_WholeAnalysis(benchmark::State& st) {
   Session session(Page(st.range(0)));
   for (auto _ : st)
     commands::Meta_Tag_KeyWord_Scan(*session.state, "bench.html");
+  Set_Bytes(st, st.range(0));
+}
+
+void BM_CheckPage(benchmark::State& st) {
+  const std::string& page = Page(st.range(0));
+  const checks::Profile profile = checks::DefaultProfile();
+  for (auto _ : st)
+    benchmark::DoNotOptimize(checks::CheckPage(page, profile));
   Set_Bytes(st, st.range(0));
 }
 
@@ -137,6 +146,13 @@ constexpr int64_t k100K = 100 * 1024, k1M = 1024 * 1024, k4M = 4 * 1024 * 1024;
 #define ZENTREL_SIZES ->Arg(k100K)->Arg(k1M)->Arg(k4M)->Unit(benchmark::kMillisecond)
 BENCHMARK(BM_Baseline) ZENTREL_SIZES;
 BENCHMARK(BM_WholeAnalysis) ZENTREL_SIZES;
+BENCHMARK(BM_CheckPage) ZENTREL_SIZES;
+BENCHMARK(BM_CheckPage)
+    ->Arg(k1M)
+    ->Threads(1)
+    ->Threads(2)
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Decode) ZENTREL_SIZES;
 BENCHMARK(BM_WordCount) ZENTREL_SIZES;
 BENCHMARK(BM_KeywordTallyScan0) ZENTREL_SIZES;

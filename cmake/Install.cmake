@@ -1,11 +1,13 @@
 include(GNUInstallDirs)
-# The program folder: the executables with dictionary/ and docs/ beside them, as in the build.
+# The program folder: the executables with dictionary/, docs/ and profile/ beside them, as in
+# the build.
 set(ZENTREL_INSTALL_FOLDER ${CMAKE_INSTALL_LIBDIR}/zentrel)
 install(TARGETS zentrel-cli RUNTIME DESTINATION ${ZENTREL_INSTALL_FOLDER})
 if(ZENTREL_WITH_UI)
   install(TARGETS zentrel RUNTIME DESTINATION ${ZENTREL_INSTALL_FOLDER})
 endif()
-install(DIRECTORY resources/dictionary resources/docs DESTINATION ${ZENTREL_INSTALL_FOLDER})
+install(DIRECTORY resources/dictionary resources/docs resources/profile
+        DESTINATION ${ZENTREL_INSTALL_FOLDER})
 
 if(ZENTREL_WITH_UI)
   # The desktop entry starts "zentrel" from the PATH: a link into the program folder, which the

@@ -1,4 +1,4 @@
-# The program folder holds dictionary/ and docs/ beside the executables.
+# The program folder holds dictionary/, docs/ and profile/ beside the executables.
 set(ZENTREL_PROGRAM_FOLDER ${CMAKE_BINARY_DIR}/bin)
 file(MAKE_DIRECTORY ${ZENTREL_PROGRAM_FOLDER})
 add_custom_target(zentrel_resources ALL
@@ -6,4 +6,6 @@ add_custom_target(zentrel_resources ALL
           ${ZENTREL_PROGRAM_FOLDER}/dictionary
   COMMAND ${CMAKE_COMMAND} -E copy_directory ${PROJECT_SOURCE_DIR}/resources/docs
           ${ZENTREL_PROGRAM_FOLDER}/docs
-  COMMENT "Copying dictionary/ and docs/ into the program folder")
+  COMMAND ${CMAKE_COMMAND} -E copy_directory ${PROJECT_SOURCE_DIR}/resources/profile
+          ${ZENTREL_PROGRAM_FOLDER}/profile
+  COMMENT "Copying dictionary/, docs/ and profile/ into the program folder")

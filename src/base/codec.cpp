@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace zentrel::codec {
 
@@ -15,23 +16,6 @@ constexpr std::array<char32_t, 32> kHigh = {
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 constexpr char32_t kReplacement = 0xFFFD;
-
-char32_t CodePointOf(unsigned char byte) {
-  return (byte >= 0x80 && byte <= 0x9F) ? kHigh[byte - 0x80] : static_cast<char32_t>(byte);
-}
-
-void AppendUtf8(std::string& out, char32_t cp) {
-  if (cp < 0x80) {
-    out += static_cast<char>(cp);
-  } else if (cp < 0x800) {
-    out += static_cast<char>(0xC0 | (cp >> 6));
-    out += static_cast<char>(0x80 | (cp & 0x3F));
-  } else {
-    out += static_cast<char>(0xE0 | (cp >> 12));
-    out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-    out += static_cast<char>(0x80 | (cp & 0x3F));
-  }
-}
 
 // Decodes one UTF-8 sequence at i (input already known to be valid or best effort).
 char32_t NextCodePoint(std::string_view s, size_t& i) {
@@ -106,8 +90,53 @@ std::string RepairUtf8(std::string_view s) {
 
 }  // namespace
 
+char32_t Windows1252CodePoint(unsigned char byte) {
+  return (byte >= 0x80 && byte <= 0x9F) ? kHigh[byte - 0x80] : static_cast<char32_t>(byte);
+}
+
+void AppendUtf8(std::string& out, char32_t cp) {
+  if (cp < 0x80) {
+    out += static_cast<char>(cp);
+  } else if (cp < 0x800) {
+    out += static_cast<char>(0xC0 | (cp >> 6));
+    out += static_cast<char>(0x80 | (cp & 0x3F));
+  } else if (cp < 0x10000) {
+    out += static_cast<char>(0xE0 | (cp >> 12));
+    out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+    out += static_cast<char>(0x80 | (cp & 0x3F));
+  } else {
+    out += static_cast<char>(0xF0 | (cp >> 18));
+    out += static_cast<char>(0x80 | ((cp >> 12) & 0x3F));
+    out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+    out += static_cast<char>(0x80 | (cp & 0x3F));
+  }
+}
+
+std::u32string ToCodePoints(std::string_view bytes, Codec codec) {
+  std::u32string out;
+  out.reserve(bytes.size());
+  for (size_t i = 0; i < bytes.size();) {
+    if (codec == Codec::Windows1252) {
+      out += Windows1252CodePoint(static_cast<unsigned char>(bytes[i++]));
+    } else if (SequenceAt(bytes, i) == 0) {
+      out += kReplacement;
+      ++i;
+    } else {
+      out += NextCodePoint(bytes, i);
+    }
+  }
+  return out;
+}
+
 bool IsValidUtf8(std::string_view s) {
   for (size_t i = 0; i < s.size();) {
+    // Runs of ASCII, which most pages are mostly made of, eight bytes at a time.
+    uint64_t word;
+    if (i + sizeof word <= s.size() &&
+        (std::memcpy(&word, s.data() + i, sizeof word), (word & 0x8080808080808080u) == 0)) {
+      i += sizeof word;
+      continue;
+    }
     const size_t length = SequenceAt(s, i);
     if (length == 0)
       return false;
@@ -126,7 +155,7 @@ std::string ToUtf8(std::string_view bytes, Codec codec) {
   std::string out;
   out.reserve(bytes.size() + bytes.size() / 4);
   for (char c : bytes)
-    AppendUtf8(out, CodePointOf(static_cast<unsigned char>(c)));
+    AppendUtf8(out, Windows1252CodePoint(static_cast<unsigned char>(c)));
   return out;
 }
 

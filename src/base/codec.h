@@ -19,4 +19,10 @@ std::string ToUtf8(std::string_view bytes, Codec codec);
 // Characters that Windows-1252 cannot hold become "?".
 std::string FromUtf8(std::string_view utf8, Codec codec);
 
+// The characters that bytes stand for in the given codec, with the same U+FFFD rule.
+std::u32string ToCodePoints(std::string_view bytes, Codec codec);
+// The character of one byte in Windows-1252.
+char32_t Windows1252CodePoint(unsigned char byte);
+void AppendUtf8(std::string& out, char32_t c);
+
 }  // namespace zentrel::codec

@@ -7,6 +7,7 @@
 #include "base/file_io.h"
 #include "cli/cli_platform.h"
 #include "cli/json_output.h"
+#include "cli/lint_command.h"
 #include "commands/control_table.h"
 #include "commands/edit_meta_tags.h"
 #include "commands/page_loading.h"
@@ -34,12 +35,15 @@ constexpr const char* kUsageText =
     "       zentrel-cli validate [OPTIONS] PAGE...\n"
     "       zentrel-cli rebuild  [OPTIONS] PAGE -o OUT [--tags FILE.tag] [--set NAME=VALUE]..."
     " [--force]\n"
+    "       zentrel-cli lint [--profile FILE] [--format text|json|sarif] [--jobs N] PATH...\n"
     "\n"
     "  report    the page report of each PAGE, as the \"Page Report\" tab shows it\n"
     "  analyse   one JSON object per PAGE with the report, the result boxes and the fields\n"
     "  validate  \"PAGE: OK\" or \"PAGE: \" and the section error; exit 1 when any page fails\n"
     "  rebuild   analyse PAGE, mark every META tag field, load FILE.tag, apply each --set,\n"
     "            and save to OUT; a section error is refused unless --force\n"
+    "  lint      check what search engines read from pages and folders of pages\n"
+    "            (zentrel-cli lint --help tells more; the OPTIONS below do not apply)\n"
     "\n"
     "OPTIONS\n"
     "  --prefs FILE          read this preferences file instead of the program folder's\n"
@@ -256,6 +260,8 @@ int Run_Rebuild(const Options& o, std::ostream& err, const std::string& folder) 
 
 int Run_Cli(const std::vector<std::string>& args, std::ostream& out, std::ostream& err,
             const std::string& executableFolder) {
+  if (!args.empty() && args.front() == "lint")
+    return Run_Lint({args.begin() + 1, args.end()}, out, err, executableFolder);
   Options o;
   try {
     o = Parse(args);

@@ -9,7 +9,7 @@ namespace zentrel::cli {
 
 namespace {
 
-void Quoted(std::ostream& out, const std::string& utf8) {
+void Quoted(std::ostream& out, std::string_view utf8) {
   out << '"';
   for (char c : utf8) {
     switch (c) {
@@ -43,7 +43,7 @@ void Quoted(std::ostream& out, const std::string& utf8) {
 
 // A text that is not the page's own (the path as given, the error) in its own codec, so a
 // file name in another encoding than the page still gives valid UTF-8.
-void QuotedOwnCodec(std::ostream& out, const std::string& bytes) {
+void QuotedOwnCodec(std::ostream& out, std::string_view bytes) {
   Quoted(out, codec::ToUtf8(bytes, codec::DetectCodec(bytes)));
 }
 
@@ -80,6 +80,14 @@ void Write_Analysis_Json(std::ostream& out, const AppState& s, const std::string
     Quoted(out, codec::ToUtf8(f.MetaTag_TextBox[i], c));
   }
   out << "]}\n";
+}
+
+void Write_Json_String(std::ostream& out, std::string_view utf8) {
+  Quoted(out, utf8);
+}
+
+void Write_Json_String_Own_Codec(std::ostream& out, std::string_view bytes) {
+  QuotedOwnCodec(out, bytes);
 }
 
 }  // namespace zentrel::cli

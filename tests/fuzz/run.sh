@@ -13,7 +13,7 @@ cd "$(dirname "$0")/../.."
 seconds=${1:-60}
 shift || true
 targets=("$@")
-[ ${#targets[@]} -eq 0 ] && targets=(analyse rebuild files search)
+[ ${#targets[@]} -eq 0 ] && targets=(analyse rebuild files search checks)
 
 preset=${FUZZ_PRESET:-fuzz}
 cmake --preset "$preset" >/dev/null || exit 2
