@@ -195,7 +195,7 @@ TEST(CheckPage, AnyBytesGiveFindingsAndNoCrash) {
                                 "<meta name=robots content=,,:,>",
                                 "<svg><title><![CDATA[</svg>",
                                 "<plaintext><title>x</title>",
-                                std::string("\0\xFF\xFE<ti\0tle>\x80</title>", 21),
+                                std::string("\0\xFF\xFE<ti\0tle>\x80</title>", 20),
                                 std::string(100000, '<') + "<title>x"};
   for (const std::string& page : inputs) {
     const PageCheck check = CheckPage(page, DefaultProfile());
