@@ -36,6 +36,7 @@ constexpr const char* kUsageText =
     "       zentrel-cli rebuild  [OPTIONS] PAGE (-o OUT | --diff | -o OUT --diff)\n"
     "                            [--tags FILE.tag] [--set NAME=VALUE]... [--force]\n"
     "       zentrel-cli lint [--profile FILE] [--format text|json|sarif] [--jobs N] PATH...\n"
+    "       zentrel-cli --version\n"
     "\n"
     "  report    the page report of each PAGE, as the \"Page Report\" tab shows it\n"
     "  analyse   one JSON object per PAGE with the report, the result boxes and the fields\n"
@@ -281,6 +282,10 @@ int Run_Cli(const std::vector<std::string>& args, std::ostream& out, std::ostrea
             const std::string& executableFolder) {
   if (!args.empty() && args.front() == "lint")
     return Run_Lint({args.begin() + 1, args.end()}, out, err, executableFolder);
+  if (args.size() == 1 && args.front() == "--version") {
+    out << "zentrel-cli (" << commands::kProgramName << " " << commands::kProgramVersion << ")\n";
+    return kOk;
+  }
   Options o;
   try {
     o = Parse(args);

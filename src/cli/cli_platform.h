@@ -25,6 +25,10 @@ class CliPlatform : public state::Platform {
     return true;
   }
   void ShowChangesOn(std::ostream* out) { changesOut_ = out; }
+  // The command line replaces no page that the user edited.
+  state::SaveChoice AskSaveChanges(const std::string&) override {
+    return state::SaveChoice::Discard;
+  }
   void ShowMessage(const std::string& text) override;
   void ShowCritical(const std::string& text) override { ShowMessage(text); }
   void BeginBusy() override {}

@@ -26,6 +26,7 @@ std::vector<Control> Build_Control_Table() {
       {"Command1", Command1_Click},
       {"Command2", Command2_Click},
       {"Users_METATAGS_Clear_Command", Users_METATAGS_Clear_Command_Click},
+      {"KeyWords_MinKeyWordMatches_DropDown", KeyWords_MinKeyWordMatches_DropDown_Click},
       // "Edit Meta Tags"
       {"MetaTagFunctions_ReThreadDocument", MetaTagFunctions_ReThreadDocument_Click},
       {"MetaTagFunctions_MArk_ALL_Checkboxes", MetaTagFunctions_MArk_ALL_Checkboxes_Click},
@@ -98,6 +99,7 @@ bool Dispatch(AppState& s, std::string_view name) {
       std::find_if(table.begin(), table.end(), [&](const Control& c) { return c.Name == name; });
   if (it == table.end())
     return false;
+  s.Form.StatusBar_Text.clear();
   Run_Guarded(s, it->Handler);
   return true;
 }

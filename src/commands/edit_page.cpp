@@ -24,8 +24,10 @@ int32_t HtmlEdit_Search_For_String(AppState& s, int32_t start) {
   }
   const std::string& haystack = matchCase ? s.DocumentText : folded;
   const std::string& needle = s.EditorFindText;
-  if (needle.empty())
+  if (needle.empty()) {
+    s.Form.StatusBar_Text = "Type the text to search for";
     return 0;
+  }
 
   if (needle != s.EditorFindPreviousText)
     start = 1;
@@ -50,9 +52,11 @@ int32_t HtmlEdit_Search_For_String(AppState& s, int32_t start) {
     select(p);
   } else if (start == 1) {
     caret_at_top();
+    s.Form.StatusBar_Text = "\"" + s.Form.Html_Document_Editor_SearchText + "\" not found";
   } else {
     // Past the last occurrence: wrap to the top.
     p = find_from(1);
+    s.Form.StatusBar_Text = "Search went on from the top";
     if (p >= 1)
       select(p);
     else

@@ -9,6 +9,7 @@
 #include "commands/edit_meta_tags.h"
 #include "commands/scan_keywords.h"
 #include "commands/startup.h"
+#include "commands/unsaved_edits.h"
 #include "decode/meta_tag_table.h"
 #include "document/document_cache.h"
 #include "state/app_state.h"
@@ -20,20 +21,10 @@ namespace {
 constexpr int16_t kRecentShown = 5;
 constexpr int16_t kRecentCaptionLength = 32;
 
-// Refused before anything changes, so a wrong pick never unloads the page in hand.
-bool Can_Be_A_Page(AppState& s, const std::string& path) {
-  try {
-    file_io::CheckReadableKind(path);
-    return true;
-  } catch (const file_io::FileError& e) {
-    s.platform->ShowMessage(e.what());
-    return false;
-  }
-}
-
-}  // namespace
-
-int32_t Load_File_To_Cache(AppState& s, const std::string& path, int16_t skipRecentList) {
+// The page read into the cache as the current document, or nullopt when it cannot be read:
+// the message is shown and the page in hand stays current, its name included.
+std::optional<int32_t> Read_Page(AppState& s, const std::string& path, int16_t skipRecentList) {
+  const std::string previousName = s.CurrentFileName;
   try {
     if (skipRecentList == 0) {
       Add_Recent_File(s, path);
@@ -49,7 +40,49 @@ int32_t Load_File_To_Cache(AppState& s, const std::string& path, int16_t skipRec
   } catch (const RunTimeError& e) {
     s.platform->ShowMessage(e.what());
   }
-  return 0;
+  s.CurrentFileName = previousName;
+  return std::nullopt;
+}
+
+// A page the user picked replaces the one in hand once the unsaved edits are settled; the
+// analysis runs on it, and it stands as saved.
+void Replace_Page(AppState& s, const std::string& path, int16_t skipRecentList) {
+  if (!Settle_Unsaved_Edits(s))
+    return;
+  const std::string previousName = s.CurrentFileName;
+  if (skipRecentList != 0)
+    s.CurrentFileName.clear();
+  const std::optional<int32_t> length = Read_Page(s, path, skipRecentList);
+  if (!length) {
+    s.CurrentFileName = previousName;
+    return;
+  }
+  s.DocumentLength = *length;
+  try {
+    if (s.DocumentLength != 0)
+      Meta_Tag_KeyWord_Scan(s, path);
+  } catch (...) {
+    Mark_Page_Saved(s);  // what the failed analysis filled is no edit of the user's
+    throw;
+  }
+  Mark_Page_Saved(s);
+}
+
+// Refused before anything changes, so a wrong pick never unloads the page in hand.
+bool Can_Be_A_Page(AppState& s, const std::string& path) {
+  try {
+    file_io::CheckReadableKind(path);
+    return true;
+  } catch (const file_io::FileError& e) {
+    s.platform->ShowMessage(e.what());
+    return false;
+  }
+}
+
+}  // namespace
+
+int32_t Load_File_To_Cache(AppState& s, const std::string& path, int16_t skipRecentList) {
+  return Read_Page(s, path, skipRecentList).value_or(0);
 }
 
 // No duplicate check: loading a page twice lists it twice.
@@ -82,9 +115,7 @@ void Do_Load_File(AppState& s, const std::string& /*path*/, int16_t /*flag*/) {
 void Load_Chosen_Page(AppState& s, const std::string& path) {
   if (path.empty() || !file_io::FileExists(path) || !Can_Be_A_Page(s, path))
     return;
-  s.DocumentLength = Load_File_To_Cache(s, path, 0);
-  if (s.DocumentLength != 0)
-    Meta_Tag_KeyWord_Scan(s, path);
+  Replace_Page(s, path, 0);
 }
 
 std::string Do_Select_Load_File(AppState& s, const std::string& filter, int16_t filterIndex,
@@ -102,11 +133,8 @@ void Load_File_QuickLoadMenu(AppState& s, int16_t index) {
   const std::string path = At(s.RecentFiles, index);
   if (!Can_Be_A_Page(s, path))
     return;
-  s.CurrentFileName.clear();
   // Re-opening an entry leaves the list as it is.
-  s.DocumentLength = Load_File_To_Cache(s, path, 1);
-  if (s.DocumentLength > 0)
-    Meta_Tag_KeyWord_Scan(s, path);
+  Replace_Page(s, path, 1);
 }
 
 void Show_Quick_Load_File_MNU_Listings(AppState& s) {

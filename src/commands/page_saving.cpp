@@ -6,6 +6,7 @@
 #include "base/file_io.h"
 #include "commands/page_loading.h"
 #include "commands/startup.h"
+#include "commands/unsaved_edits.h"
 #include "document/document_cache.h"
 #include "metatags/head_diff.h"
 #include "metatags/page_encoder.h"
@@ -69,14 +70,24 @@ void Take_Written_Page(AppState& s, int32_t written) {
 // The page from the source editor, its sections checked: false when there is nothing to
 // write (no file name, an empty page) or the WARNING question was answered No.
 bool Ready_To_Encode(AppState& s, bool named, int16_t rebuildFlag) {
+  const bool rebuild = rebuildFlag != 0;
   s.DocumentLength = document::Reload_File_From_Memory_TO_Cache(s);
-  if (!named || s.DocumentLength == 0)
+  if (s.DocumentLength == 0) {
+    s.Form.StatusBar_Text = rebuild ? "There is no page to rebuild" : "There is no page to save";
     return false;
+  }
+  if (!named) {
+    s.Form.StatusBar_Text = "The page has no file to be saved over: use Save Page As";
+    return false;
+  }
   const std::string error = metatags::Rescan_For_Encoding(s);
   if (error.empty())
     return true;
-  const char* suffix = rebuildFlag != 0 ? kRebuildSuffix : kSaveSuffix;
-  return s.platform->AskYesNo("WARNING", "WARNING - " + error + suffix);
+  if (s.platform->AskYesNo("WARNING",
+                           "WARNING - " + error + (rebuild ? kRebuildSuffix : kSaveSuffix)))
+    return true;
+  s.Form.StatusBar_Text = rebuild ? "Not rebuilt" : "Not saved";
+  return false;
 }
 
 // The file a save replaces, kept beside it as FILE.bak (itself replaced atomically).
@@ -99,8 +110,10 @@ bool HTML_ENCODE_Document(AppState& s, const std::string& fileName, int16_t rebu
   const int32_t written = metatags::Rebuild_Page(s);
   if (save && s.SaveShowChanges == 1) {
     const metatags::HeadDiff diff = metatags::Head_Diff(s);
-    if (!diff.Text.empty() && !s.platform->ConfirmChanges(diff.Text, diff.Vanishing))
+    if (!diff.Text.empty() && !s.platform->ConfirmChanges(diff.Text, diff.Vanishing)) {
+      s.Form.StatusBar_Text = "Not saved";
       return false;
+    }
   }
   if (save && s.SaveKeepBackup == 1)
     Keep_Backup(s, target);
@@ -109,6 +122,12 @@ bool HTML_ENCODE_Document(AppState& s, const std::string& fileName, int16_t rebu
       target, std::string_view(reinterpret_cast<const char*>(page.data()), page.size()), *s.files);
   Take_Written_Page(s, written);
   restore.Dismiss();
+  if (save) {
+    Mark_Page_Saved(s);
+    s.Form.StatusBar_Text = "Saved " + target;
+  } else {
+    s.Form.StatusBar_Text = "Page rebuilt: the new page is on \"Edit Page\"";
+  }
   return true;
 }
 
@@ -122,8 +141,10 @@ std::optional<metatags::HeadDiff> Preview_Save(AppState& s) {
 }
 
 void Do_save(AppState& s) {
-  if (s.DocumentLength == 0)
+  if (s.DocumentLength == 0) {
+    s.Form.StatusBar_Text = "There is no page to save";
     return;
+  }
   const std::optional<std::string> path = Choose_Page_File(s, true);
   if (!path || path->empty())
     return;

@@ -15,6 +15,8 @@ struct AppState;
 namespace zentrel::commands {
 
 inline constexpr const char* kTempDataFileName = "Zentrel_TempData.tmp";
+inline constexpr const char* kSavePageWritesNothing =
+    "Save Page writes nothing: use Save Page As, or the save button beside Rebuild Page";
 
 // True when the page was written and is the current document; false when nothing was changed
 // (empty name or document, No to the WARNING question, Cancel to the changes shown). A save

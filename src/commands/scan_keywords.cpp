@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "analysis/analysis_driver.h"
+#include "base/text.h"
 #include "commands/edit_meta_tags.h"
 #include "commands/page_loading.h"
 #include "commands/setting_boxes.h"
@@ -90,6 +91,12 @@ void KeyWords_ForceSameCaseMatching_Click(AppState& s) {
 
 void KeyWords_MinKeyWordMatches_Option_Click(AppState& s) {
   Setting_Box_Click(s, &state::FormModel::KeyWords_MinKeyWordMatches_Option);
+}
+
+void KeyWords_MinKeyWordMatches_DropDown_Click(AppState& s) {
+  const double picked = text::Val(s.Form.KeyWords_MinKeyWordMatches_DropDown.Text);
+  if (picked >= 1 && picked <= 99)
+    s.KeywordsMinMatches = static_cast<int16_t>(picked);
 }
 
 void KeyWords_MatchScanType_CheckBOx_Click(AppState& s) {

@@ -27,6 +27,9 @@ void KeyWords_SortList_Click(AppState& s);
 void KeyWords_RemoveDoubleKeyWordListings_Click(AppState& s);
 void KeyWords_ForceSameCaseMatching_Click(AppState& s);
 void KeyWords_MinKeyWordMatches_Option_Click(AppState& s);
+// Keeps the minimum picked beside "Remove Keywords With Less Than" as the setting, so the
+// preferences file remembers it.
+void KeyWords_MinKeyWordMatches_DropDown_Click(AppState& s);
 void KeyWords_MatchScanType_CheckBOx_Click(AppState& s);
 void KeyWordMatch_Disable_Part_Keyword_Matches_Click(AppState& s);
 void WordMatch_ForceCase_Click(AppState& s);

@@ -100,6 +100,11 @@ struct FormModel {
   MenuEntry mnu_file_QuickLoadSlash;
   std::array<MenuEntry, 5> mnu_file_QuickLoadFile;  // mnu_file_QuickLoadFile1..5
 
+  // The window's modified marker: the page or the fields hold edits not yet saved.
+  bool PageModified = false;
+  // What the last command has to say in the status bar ("" for nothing).
+  std::string StatusBar_Text;
+
   // Set when the program has ended ("&Quit", closing the window); the view then closes.
   bool ProgramHasEnded = false;
   // Set by "&Help" > "About"; the view shows the about box and clears it.

@@ -18,6 +18,9 @@ struct FileDialog {
   std::string DefaultExt;
 };
 
+// The answer to the question before unsaved edits would be lost.
+enum class SaveChoice { Save, Discard, Cancel };
+
 class Platform {
  public:
   virtual ~Platform() = default;
@@ -32,6 +35,8 @@ class Platform {
   // buttons; true for Save.
   virtual bool ConfirmChanges(const std::string& diffText,
                               const std::vector<std::string>& vanishingTags) = 0;
+  // Save, Discard and Cancel, before a command replaces a page that holds unsaved edits.
+  virtual SaveChoice AskSaveChanges(const std::string& text) = 0;
   // A message box with an OK button.
   virtual void ShowMessage(const std::string& text) = 0;
   // A message box for a fault of the program itself (a control without a handler).

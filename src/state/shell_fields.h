@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <string>
 
+#include "state/form_model.h"
+
 namespace zentrel::state {
 
 struct ShellFields {
@@ -22,6 +24,11 @@ struct ShellFields {
   // Recent pages, newest at 0; index 5 only receives the entry pushed out of index 4.
   std::array<std::string, 6> RecentFiles;
   int16_t RecentFileCount = 0;
+
+  // The page source and the META tag fields as the last load, save or "&New" left them; edits
+  // are what differs.
+  std::string SavedPageText;
+  std::array<std::string, kMetaTagFieldCount> SavedMetaTagFields;
 };
 
 }  // namespace zentrel::state

@@ -65,7 +65,10 @@ bool cCommonDialog::ShowSave(state::FileDialog& dialog) {
 }
 
 bool cCommonDialog::Show(state::FileDialog& dialog, bool save) {
-  const QStringList names = NameFilters(dialog.Filter);
+  QStringList names = NameFilters(dialog.Filter);
+  // Opening, the ".html" filter shows ".htm" pages as well; the list and its numbering stay.
+  if (!save && !names.isEmpty() && names.first() == QStringLiteral("(*.html)"))
+    names.first() = QStringLiteral("(*.html *.htm)");
   QFileDialog box(owner_, save ? QStringLiteral("Save As") : QStringLiteral("Open"));
   box.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   box.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);

@@ -62,12 +62,12 @@ QLineEdit* MakeLineEdit(View& v, QWidget* parent, const std::string& name, std::
 }
 
 QPlainTextEdit* MakeTextArea(View& v, QWidget* parent, const char* name, std::string* field,
-                             bool readOnly) {
+                             bool readOnly, FormBinding::Layout layout) {
   auto* w = new QPlainTextEdit(parent);
   w->setObjectName(QString::fromLatin1(name));
   w->setReadOnly(readOnly);
   w->setLineWrapMode(QPlainTextEdit::NoWrap);
-  v.bind.TextArea(w, field);
+  v.bind.TextArea(w, field, layout);
   return w;
 }
 

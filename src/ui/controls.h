@@ -45,7 +45,7 @@ QComboBox* MakeCombo(View& v, QWidget* parent, const char* name, state::DropDown
 QLineEdit* MakeLineEdit(View& v, QWidget* parent, const std::string& name, std::string* field,
                         FormBinding::Setter setter = {}, TextKind kind = TextKind::Page);
 QPlainTextEdit* MakeTextArea(View& v, QWidget* parent, const char* name, std::string* field,
-                             bool readOnly);
+                             bool readOnly, FormBinding::Layout layout = FormBinding::Layout::AsIs);
 QLabel* MakeLabel(QWidget* parent, const QString& text, const char* name = nullptr);
 
 // A fixed-pitch font for the page source and the report.

@@ -1,19 +1,23 @@
 #include "ui/form_binding.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QSignalBlocker>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <memory>
 
+#include "commands/startup.h"
 #include "state/app_state.h"
 
 namespace zentrel::ui {
@@ -68,6 +72,52 @@ class ShowWatcher : public QObject {
 // seen or edited until it is shown. A window not shown yet (or a lone widget) is filled at once.
 bool OutOfSight(const QWidget* w) {
   return !w->isVisible() && w->window()->isVisible();
+}
+
+// Past this many bytes a text takes long enough to go into its box to want the busy pointer.
+constexpr std::size_t kLongText = 256 * 1024;
+
+class BusyWhileLong {
+ public:
+  explicit BusyWhileLong(std::size_t bytes) : on_(bytes > kLongText) {
+    if (on_)
+      QApplication::setOverrideCursor(Qt::WaitCursor);
+  }
+  ~BusyWhileLong() {
+    if (on_)
+      QApplication::restoreOverrideCursor();
+  }
+  BusyWhileLong(const BusyWhileLong&) = delete;
+  BusyWhileLong& operator=(const BusyWhileLong&) = delete;
+
+ private:
+  bool on_;
+};
+
+// One paragraph of megabytes is laid out whole before anything shows; blocks are laid out as
+// they come into sight. Each block ends after a space (or, in a stretch without one, after
+// twice the block length, never inside a surrogate pair).
+constexpr qsizetype kBlockChars = 1000;
+
+QString In_Blocks(const QString& text) {
+  if (text.size() <= 2 * kBlockChars)
+    return text;
+  QString out;
+  out.reserve(text.size() + text.size() / kBlockChars + 1);
+  qsizetype from = 0;
+  while (text.size() - from > 2 * kBlockChars) {
+    qsizetype cut = text.indexOf(u' ', from + kBlockChars) + 1;
+    if (cut <= 0 || cut - from > 2 * kBlockChars) {
+      cut = from + 2 * kBlockChars;
+      if (text[cut - 1].isHighSurrogate())
+        --cut;
+    }
+    out += QStringView(text).mid(from, cut - from);
+    out += u'\n';
+    from = cut;
+  }
+  out += QStringView(text).mid(from);
+  return out;
 }
 
 QString MenuText(QString caption) {
@@ -132,24 +182,27 @@ void FormBinding::LineEdit(QLineEdit* w, std::string* field, Setter setter, Text
                       }});
 }
 
-void FormBinding::TextArea(QPlainTextEdit* w, std::string* field) {
+void FormBinding::TextArea(QPlainTextEdit* w, std::string* field, Layout layout) {
   auto shown = std::make_shared<Shown>();
   auto crlf = std::make_shared<bool>(false);
   Deferred& deferred = DeferredFor(w);
   QObject::connect(w, &QPlainTextEdit::textChanged, w, [shown] { shown->dirty = true; });
   // Sets the text last taken from the Form, in the codec of the push that took it (the codec
   // changes only in a push, and a push after a change takes the text again).
-  auto setText = [this, w, shown, crlf, &deferred] {
+  auto setText = [this, w, shown, crlf, layout, &deferred] {
     const QSignalBlocker block(w);
+    const BusyWhileLong busy(shown->bytes.size());
     deferred.text = false;
     *crlf = UsesCrLf(shown->bytes);
-    w->setPlainText(Show(shown->bytes, TextKind::Page));
+    const QString text = Show(shown->bytes, TextKind::Page);
+    w->setPlainText(layout == Layout::Blocks ? In_Blocks(text) : text);
     shown->dirty = false;
   };
   deferred.showText = setText;
-  entries_.push_back({[this, w, field, shown, crlf] {
-                        // A text still waiting to be shown was never in the editor to change.
-                        if (!shown->dirty)
+  entries_.push_back({[this, w, field, shown, crlf, layout] {
+                        // A text still waiting to be shown was never in the editor to change;
+                        // one cut into blocks is never read back.
+                        if (!shown->dirty || layout == Layout::Blocks)
                           return;
                         shown->dirty = false;
                         shown->bytes = Take(EditorText(w, *crlf), TextKind::Page);
@@ -296,21 +349,44 @@ void FormBinding::ToolTip(QWidget* w, const std::string* field) {
   ShowOnly(field, [w](const QString& text) { w->setToolTip(text); });
 }
 
-void FormBinding::Menu(QAction* a, const state::MenuEntry* entry) {
+void FormBinding::Menu(QAction* a, const state::MenuEntry* entry, bool numbered) {
   entries_.push_back({[] {},
-                      [a, entry] {
-                        if (!entry->Caption.empty())
-                          a->setText(MenuText(DecodePath(entry->Caption)));
+                      [a, entry, numbered] {
+                        if (!entry->Caption.empty()) {
+                          QString text = MenuText(DecodePath(entry->Caption));
+                          const qsizetype digit =
+                              text.indexOf(QRegularExpression(QStringLiteral("[0-9]")));
+                          if (numbered && digit >= 0)
+                            text.insert(digit, u'&');
+                          a->setText(text);
+                        }
                         a->setVisible(entry->Visible);
                       }});
 }
 
-void FormBinding::WindowTitle(QWidget* w, const std::string* field) {
+void FormBinding::WindowTitle(QWidget* w, const std::string* field, const bool* modified) {
   entries_.push_back({[] {},
-                      [w, field] {
-                        const QString title = DecodePath(*field);
+                      [w, field, modified] {
+                        // Qt shows "[*]" as the marker; a "[*]" of the path stays as it is.
+                        QString title = DecodePath(*field).replace(QStringLiteral("[*]"),
+                                                                   QStringLiteral("[*][*]"));
+                        const QString program =
+                            QStringLiteral("   ") + QString::fromLatin1(commands::kProgramName);
+                        const qsizetype at = title.lastIndexOf(program);
+                        title.insert(at < 0 ? title.size() : at, QStringLiteral("[*]"));
                         if (w->windowTitle() != title)
                           w->setWindowTitle(title);
+                        w->setWindowModified(*modified);
+                      }});
+}
+
+void FormBinding::StatusBar(QStatusBar* w, const std::string* field) {
+  // Compared with what the bar shows now: a menu's hover text may have wiped it meanwhile.
+  entries_.push_back({[] {},
+                      [this, w, field] {
+                        const QString text = Show(*field, TextKind::Page);
+                        if (w->currentMessage() != text)
+                          w->showMessage(text);
                       }});
 }
 

@@ -20,6 +20,7 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
+class QStatusBar;
 class QTabWidget;
 class QWidget;
 
@@ -45,14 +46,21 @@ class FormBinding {
 
   void LineEdit(QLineEdit* w, std::string* field, Setter setter = {},
                 TextKind kind = TextKind::Page);
-  void TextArea(QPlainTextEdit* w, std::string* field);
+  // How a text area lays its text out: as it stands, or, for a long text of one paragraph
+  // shown read-only (the body's words), cut after a space into blocks of about a thousand
+  // characters, which Qt lays out only where they are seen.
+  enum class Layout { AsIs, Blocks };
+  void TextArea(QPlainTextEdit* w, std::string* field, Layout layout = Layout::AsIs);
   void Selection(QPlainTextEdit* w, const std::string* text, int32_t* start, int32_t* length);
   void CheckBox(QCheckBox* w, int16_t* field);
   void ComboBox(QComboBox* w, state::DropDown* field);
   void Label(QLabel* w, const std::string* field);
   void ToolTip(QWidget* w, const std::string* field);
-  void Menu(QAction* a, const state::MenuEntry* entry);
-  void WindowTitle(QWidget* w, const std::string* field);
+  // A numbered entry (" 1: page.html") gets its number as the key that picks it.
+  void Menu(QAction* a, const state::MenuEntry* entry, bool numbered = false);
+  // The caption, with the window's modified marker ("*") after the page's name.
+  void WindowTitle(QWidget* w, const std::string* field, const bool* modified);
+  void StatusBar(QStatusBar* w, const std::string* field);
   void Tabs(QTabWidget* w, int16_t* field);
 
   void Pull();

@@ -8,7 +8,9 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QScreen>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QUrl>
 #include <QtGlobal>
@@ -18,6 +20,7 @@
 #include "commands/control_table.h"
 #include "commands/page_loading.h"
 #include "commands/startup.h"
+#include "commands/unsaved_edits.h"
 #include "ui/about_box.h"
 #include "ui/edit_page_tab.h"
 #include "ui/meta_tags_tab.h"
@@ -46,16 +49,21 @@ MainWindow::~MainWindow() = default;
 void MainWindow::BuildTabs() {
   tabs_ = new QTabWidget(this);
   tabs_->setObjectName(QStringLiteral("SSTab1"));
-  tabs_->addTab(new ScanKeywordsTab(view_, tabs_), QStringLiteral("Scan Keywords"));
-  tabs_->addTab(new MetaTagsTab(view_, tabs_), QStringLiteral("Edit Meta Tags"));
-  tabs_->addTab(new ViewBodyTab(view_, tabs_), QStringLiteral("View Body"));
-  tabs_->addTab(new PageReportTab(view_, tabs_), QStringLiteral("Page Report"));
+  // Alt and the underlined letter bring a tab to the front.
+  tabs_->addTab(new ScanKeywordsTab(view_, tabs_), QStringLiteral("&Scan Keywords"));
+  tabs_->addTab(new MetaTagsTab(view_, tabs_), QStringLiteral("Edit &Meta Tags"));
+  tabs_->addTab(new ViewBodyTab(view_, tabs_), QStringLiteral("&View Body"));
+  tabs_->addTab(new PageReportTab(view_, tabs_), QStringLiteral("Page &Report"));
   editPage_ = new EditPageTab(view_, tabs_);
-  tabs_->addTab(editPage_, QStringLiteral("Edit Page"));
-  tabs_->addTab(new PrefsTab(view_, tabs_), QStringLiteral("Prefs"));
+  tabs_->addTab(editPage_, QStringLiteral("&Edit Page"));
+  tabs_->addTab(new PrefsTab(view_, tabs_), QStringLiteral("&Prefs"));
   bind_.Tabs(tabs_, &s_.Form.SelectedTab);
-  bind_.WindowTitle(this, &s_.Form.Caption);
+  bind_.WindowTitle(this, &s_.Form.Caption, &s_.Form.PageModified);
+  bind_.StatusBar(statusBar(), &s_.Form.StatusBar_Text);
   setCentralWidget(tabs_);
+  // Typing in the page source marks the window at once; the next command tells exactly.
+  auto* source = findChild<QPlainTextEdit*>(QStringLiteral("Html_Document_Editor"));
+  connect(source, &QPlainTextEdit::textChanged, this, [this] { setWindowModified(true); });
 }
 
 void MainWindow::BuildMenus() {
@@ -68,7 +76,7 @@ void MainWindow::BuildMenus() {
   };
   QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
   file->setObjectName(QStringLiteral("mnu_File"));
-  command(file, "Mnu_File_new", QStringLiteral("&New"));
+  command(file, "Mnu_File_new", QStringLiteral("&New"))->setShortcut(QKeySequence::New);
   command(file, "mnu_file_Load", QStringLiteral("&Load Page"))->setShortcut(QKeySequence::Open);
   file->addSeparator();
   command(file, "mnu_File_SAVE", QStringLiteral("&Save Page"));
@@ -80,7 +88,7 @@ void MainWindow::BuildMenus() {
   for (std::size_t i = 0; i < f.mnu_file_QuickLoadFile.size(); ++i) {
     const std::string name = "mnu_file_QuickLoadFile" + std::to_string(i + 1);
     QAction* recent = command(file, name.c_str(), QString());
-    bind_.Menu(recent, &f.mnu_file_QuickLoadFile[i]);
+    bind_.Menu(recent, &f.mnu_file_QuickLoadFile[i], true);
   }
   file->addSeparator();
   command(file, "mnu_File_Quit", QStringLiteral("&Quit"))
@@ -100,6 +108,12 @@ void MainWindow::BuildMenus() {
     addAction(a);
   };
   key("Shortcut_Rescan", QKeySequence(Qt::Key_F5), [this] { Run("Command2"); });
+  key("Shortcut_Rebuild", QKeySequence(Qt::CTRL | Qt::Key_R),
+      [this] { Run("MetaTagFunctions_ReThreadDocument"); });
+  key("Shortcut_SaveOver", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+      [this] { Run("Picture2"); });
+  key("Shortcut_SaveReport", QKeySequence(Qt::CTRL | Qt::Key_E),
+      [this] { Run("PageReport_SAVEAS"); });
   key("Shortcut_Find", QKeySequence::Find, [this] {
     tabs_->setCurrentWidget(editPage_);
     editPage_->SearchBox()->setFocus();
@@ -133,6 +147,7 @@ void MainWindow::Sync(const std::function<void(AppState&)>& command) {
   commands::Run_Guarded(s_, [this](AppState&) { bind_.Pull(); });
   if (command)
     commands::Run_Guarded(s_, command);
+  commands::Update_Modified_Flag(s_);
   bind_.Push();
   running_ = false;
   if (std::exchange(s_.Form.AboutBoxRequested, false))
@@ -176,10 +191,18 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     return;
   }
   if (!s_.Form.ProgramHasEnded) {
-    commands::Run_Guarded(s_, [this](AppState& s) {
+    bool settled = false;
+    commands::Run_Guarded(s_, [this, &settled](AppState& s) {
       bind_.Pull();
-      commands::ProgramEnded(s);
+      settled = commands::Settle_Unsaved_Edits(s);
+      if (settled)
+        commands::ProgramEnded(s);
     });
+    if (!settled) {
+      bind_.Push();
+      event->ignore();
+      return;
+    }
   }
   if (about_)
     about_->close();

@@ -93,7 +93,7 @@ MetaTagsTab::MetaTagsTab(View& v, QWidget* parent) : QWidget(parent) {
   auto* save = new QToolButton(this);
   save->setObjectName(QStringLiteral("Picture2"));
   save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
-  save->setToolTip(QStringLiteral("Save the page over the loaded file"));
+  save->setToolTip(QStringLiteral("Save the page over the loaded file (Ctrl+Shift+S)"));
   connect(save, &QToolButton::clicked, save, [&v] { v.run("Picture2"); });
   rebuild->addWidget(save);
   buttons->addLayout(rebuild);

@@ -9,6 +9,7 @@
 
 #include "commands/startup.h"
 #include "ui/changes_dialog.h"
+#include "ui/help_viewer.h"
 #include "ui/text_codec.h"
 
 namespace zentrel::ui {
@@ -33,8 +34,25 @@ bool QtPlatform::ConfirmChanges(const std::string& diffText,
   return Confirm_Changes(owner_, diffText, vanishingTags);
 }
 
+state::SaveChoice QtPlatform::AskSaveChanges(const std::string& text) {
+  QMessageBox box(QMessageBox::Warning, QString::fromLatin1(commands::kProgramName),
+                  DecodePath(text), QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+                  owner_);
+  box.setObjectName(QStringLiteral("SaveChangesQuestion"));
+  box.setDefaultButton(QMessageBox::Save);
+  switch (box.exec()) {
+    case QMessageBox::Save:
+      return state::SaveChoice::Save;
+    case QMessageBox::Discard:
+      return state::SaveChoice::Discard;
+    default:
+      return state::SaveChoice::Cancel;
+  }
+}
+
+// Every message of the core reports a failure.
 void QtPlatform::ShowMessage(const std::string& text) {
-  QMessageBox box(QMessageBox::Information, QString::fromLatin1(commands::kProgramName),
+  QMessageBox box(QMessageBox::Warning, QString::fromLatin1(commands::kProgramName),
                   QString::fromLocal8Bit(text), QMessageBox::Ok, owner_);
   box.exec();
 }
@@ -60,7 +78,9 @@ void QtPlatform::DoEvents() {
 }
 
 void QtPlatform::OpenDocument(const std::string& path) {
-  QDesktopServices::openUrl(QUrl::fromLocalFile(DecodePath(path)));
+  const QString file = DecodePath(path);
+  if (!QDesktopServices::openUrl(QUrl::fromLocalFile(file)))
+    Show_Help_Page(owner_, file);
 }
 
 std::string QtPlatform::ExecutableFolder() {

@@ -18,6 +18,7 @@ class QtPlatform : public state::Platform {
   bool AskYesNo(const std::string& title, const std::string& text) override;
   bool ConfirmChanges(const std::string& diffText,
                       const std::vector<std::string>& vanishingTags) override;
+  state::SaveChoice AskSaveChanges(const std::string& text) override;
   void ShowMessage(const std::string& text) override;
   void ShowCritical(const std::string& text) override;
   void BeginBusy() override;

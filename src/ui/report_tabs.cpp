@@ -19,11 +19,13 @@ ViewBodyTab::ViewBodyTab(View& v, QWidget* parent) : QWidget(parent) {
                            &f.ViewBody_ShowRAWBODY_CHeckBox));
   top->addStretch();
   layout->addLayout(top);
-  auto* body = MakeTextArea(v, this, "ScanKeyWords_StrippedHTMLDocument_TextBox",
-                            &f.ScanKeyWords_StrippedHTMLDocument_TextBox, false);
+  // The body's words are one long paragraph, shown read-only in blocks that are laid out as
+  // they come into sight ("Save Body As" writes the words as they are).
+  auto* body =
+      MakeTextArea(v, this, "ScanKeyWords_StrippedHTMLDocument_TextBox",
+                   &f.ScanKeyWords_StrippedHTMLDocument_TextBox, true, FormBinding::Layout::Blocks);
   body->setLineWrapMode(QPlainTextEdit::WidgetWidth);
-  // The body is one long paragraph, laid out whole at the box's width: a scroll bar that
-  // appears only once the text is in would narrow the box and lay a long body out twice.
+  // A scroll bar that appears only once the text is in would lay the text out twice.
   body->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   layout->addWidget(body, 1);
 }

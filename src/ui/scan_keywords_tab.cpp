@@ -72,9 +72,8 @@ ScanKeywordsTab::ScanKeywordsTab(View& v, QWidget* parent) : QWidget(parent) {
   minimum->addWidget(MakeCheck(v, keywordBox, "KeyWords_MinKeyWordMatches_Option",
                                "Remove Keywords With Less Than",
                                &f.KeyWords_MinKeyWordMatches_Option));
-  // The analysis reads the threshold when it runs; picking one runs nothing.
   minimum->addWidget(MakeCombo(v, keywordBox, "KeyWords_MinKeyWordMatches_DropDown",
-                               &f.KeyWords_MinKeyWordMatches_DropDown, 11, false));
+                               &f.KeyWords_MinKeyWordMatches_DropDown, 11));
   minimum->addStretch();
   k->addLayout(minimum, 2, 1);
   options->addWidget(keywordBox, 2);

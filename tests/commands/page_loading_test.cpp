@@ -72,12 +72,15 @@ TEST(Load_File_QuickLoadMenu, ReopensAnEntryWithoutMovingIt) {
   EXPECT_EQ(t.s.RecentFileCount, 2);
   EXPECT_EQ(t.s.RecentFiles[0], b);
 
-  // A vanished page is reported and leaves an empty document.
+  // A vanished page is reported, and the page in hand stays current under its name.
+  ASSERT_TRUE(Dispatch(t.s, "mnu_file_QuickLoadFile1"));
+  const int32_t length = t.s.DocumentLength;
   std::filesystem::remove(a);
   ASSERT_TRUE(Dispatch(t.s, "mnu_file_QuickLoadFile2"));
   ASSERT_EQ(t.platform.messages.size(), 1u);
   EXPECT_NE(t.platform.messages[0].find(a), std::string::npos);
-  EXPECT_EQ(t.s.DocumentLength, 0);
+  EXPECT_EQ(t.s.DocumentLength, length);
+  EXPECT_EQ(t.s.CurrentFileName, b);
 
   ASSERT_TRUE(Dispatch(t.s, "mnu_file_QuickLoadFile5"));  // beyond the list: nothing
   EXPECT_EQ(t.platform.messages.size(), 1u);

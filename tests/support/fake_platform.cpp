@@ -27,6 +27,10 @@ void FakePlatform::AnswerNo() {
   answers_.push_back({Answer::No, "", -1, ""});
 }
 
+void FakePlatform::AnswerSaveChanges(state::SaveChoice choice) {
+  answers_.push_back({Answer::SaveChanges, "", -1, "", choice});
+}
+
 bool FakePlatform::Dialog(state::FileDialog& dialog, Answer::Kind kind) {
   dialogs.push_back(dialog);
   if (answers_.empty()) {
@@ -63,6 +67,17 @@ bool FakePlatform::AskYesNo(const std::string& title, const std::string& text) {
   bool yes = answers_.front().kind == Answer::Yes;
   answers_.pop_front();
   return yes;
+}
+
+state::SaveChoice FakePlatform::AskSaveChanges(const std::string& text) {
+  questions.push_back(text);
+  if (answers_.empty() || answers_.front().kind != Answer::SaveChanges) {
+    ADD_FAILURE() << "unexpected question: " << text;
+    return state::SaveChoice::Cancel;
+  }
+  const state::SaveChoice choice = answers_.front().choice;
+  answers_.pop_front();
+  return choice;
 }
 
 void FakePlatform::ShowMessage(const std::string& text) {

@@ -22,6 +22,7 @@ class FakePlatform : public state::Platform {
   void CancelDialog();
   void AnswerYes();
   void AnswerNo();
+  void AnswerSaveChanges(state::SaveChoice choice);
 
   bool ShowOpen(state::FileDialog& dialog) override;
   bool ShowSave(state::FileDialog& dialog) override;
@@ -33,6 +34,7 @@ class FakePlatform : public state::Platform {
     vanishingShown.push_back(vanishingTags);
     return saveChanges;
   }
+  state::SaveChoice AskSaveChanges(const std::string& text) override;
   void ShowMessage(const std::string& text) override;
   void ShowCritical(const std::string& text) override { criticals.push_back(text); }
   void BeginBusy() override {
@@ -59,22 +61,27 @@ class FakePlatform : public state::Platform {
 
  private:
   struct Answer {
-    enum Kind { Open, Save, Cancel, Yes, No } kind;
+    enum Kind { Open, Save, Cancel, Yes, No, SaveChanges } kind;
     std::string path;
     int filterIndex = -1;
     std::string ext;
+    state::SaveChoice choice = state::SaveChoice::Cancel;
   };
   bool Dialog(state::FileDialog& dialog, Answer::Kind kind);
   std::deque<Answer> answers_;
 };
 
-// Cancels every dialog and answers No to every question, so any control can be worked.
+// Cancels every dialog, answers No to every question and Discard to the one about unsaved
+// edits, so any control can be worked.
 class CancellingPlatform : public FakePlatform {
  public:
   using FakePlatform::FakePlatform;
   bool ShowOpen(state::FileDialog&) override { return false; }
   bool ShowSave(state::FileDialog&) override { return false; }
   bool AskYesNo(const std::string&, const std::string&) override { return false; }
+  state::SaveChoice AskSaveChanges(const std::string&) override {
+    return state::SaveChoice::Discard;
+  }
   bool ConfirmChanges(const std::string&, const std::vector<std::string>&) override {
     return false;
   }

@@ -14,16 +14,20 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QTextCursor>
+#include <QTimer>
 #include <QToolButton>
 #include <QUrl>
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <memory>
 
 #include "fake_platform.h"
 #include "test_files.h"
+#include "ui/changes_dialog.h"
 #include "ui/main_window.h"
 #include "ui/text_codec.h"
 #include "ui_test_support.h"
@@ -99,11 +103,11 @@ class MainWindowTest : public ::testing::Test {
 
 // Buttons, check boxes and menu entries by name; frames and labels by their text.
 TEST_F(MainWindowTest, EveryControlIsThereWithItsCaption) {
-  EXPECT_EQ(window->windowTitle(), QStringLiteral("   Zentrel V1.62"));
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("[*]   Zentrel V1.62"));
   auto* tabs = W<QTabWidget>("SSTab1");
   QStringList tabTexts;
   for (int i = 0; i < tabs->count(); ++i)
-    tabTexts << tabs->tabText(i);
+    tabTexts << tabs->tabText(i).remove(u'&');
   EXPECT_EQ(tabTexts, (QStringList{"Scan Keywords", "Edit Meta Tags", "View Body", "Page Report",
                                    "Edit Page", "Prefs"}));
 
@@ -221,7 +225,7 @@ TEST_F(MainWindowTest, LoadingAPageFillsTheReportBoxesAndFields) {
   Load(path);
   EXPECT_TRUE(platform.messages.empty());
   EXPECT_EQ(window->PageCodec(), Codec::Utf8);
-  EXPECT_EQ(window->windowTitle(), QString::fromStdString(path) + "   Zentrel V1.62");
+  EXPECT_EQ(window->windowTitle(), QString::fromStdString(path) + "[*]   Zentrel V1.62");
   EXPECT_TRUE(Text("ReportTextBox").contains(QStringLiteral("Title: Caf\u00E9 Shoes and Boots")));
   EXPECT_TRUE(Text("ScanKeyWords_KeyWordMatches_TextBox").contains(QStringLiteral("- shoes")));
   EXPECT_TRUE(Text("ScanKeyWords_KeyWordDensity_TextBox").contains(QStringLiteral("% - boots")));
@@ -335,7 +339,7 @@ TEST_F(MainWindowTest, TheRecentMenuListsTheLastLoadsNewestFirst) {
     return Find<QAction>(window.get(), "mnu_file_QuickLoadFile" + std::to_string(i));
   };
   EXPECT_TRUE(Find<QAction>(window.get(), "mnu_file_QuickLoadSlash")->isVisible());
-  EXPECT_TRUE(entry(1)->text().startsWith(QStringLiteral(" 1: ")));
+  EXPECT_TRUE(entry(1)->text().startsWith(QStringLiteral(" &1: ")));
   for (int i = 1; i <= 3; ++i)
     EXPECT_TRUE(entry(i)->text().endsWith(QString("cba"[i - 1]) + ".htm")) << i;
   EXPECT_FALSE(entry(4)->isVisible());
@@ -384,6 +388,119 @@ TEST_F(MainWindowTest, ClosingTheWindowSavesTheSettingsShown) {
   EXPECT_NE(prefs.find("WordMatch_ForceSameCase: 1\r\n"), std::string::npos) << prefs;
 }
 
+// Each way of replacing the page asks before unsaved edits go: Cancel keeps the page and the
+// edit, Discard goes on, Save writes the page first.
+TEST_F(MainWindowTest, EveryRouteThatReplacesThePageAsksAboutUnsavedEdits) {
+  const std::string a = Save("a.htm", Page("Page A", "alpha"));
+  const std::string b = Save("b.htm", Page("Page B", "beta"));
+  QMimeData drop;
+  drop.setUrls({QUrl::fromLocalFile(QString::fromStdString(b))});
+  using Choice = state::SaveChoice;
+  auto answer = [&](Choice c) { platform.AnswerSaveChanges(c); };
+  const std::vector<std::pair<const char*, std::function<void(Choice)>>> routes = {
+      {"Load Page",
+       [&](Choice c) {
+         platform.AnswerOpen(b);  // the question comes once the page is chosen
+         answer(c);
+         Click("Command1");
+       }},
+      {"recent entry",
+       [&](Choice c) {
+         answer(c);
+         Trigger("mnu_file_QuickLoadFile2");
+       }},
+      {"New",
+       [&](Choice c) {
+         answer(c);
+         Trigger("Mnu_File_new");
+       }},
+      {"drop",
+       [&](Choice c) {
+         answer(c);
+         window->DropPage(drop);
+       }},
+      {"Quit", [&](Choice c) {
+         answer(c);
+         window->close();
+       }}};
+  Load(b);
+  for (const auto& [route, replace] : routes) {
+    Load(a);
+    EXPECT_FALSE(window->isWindowModified()) << route;
+    auto* title = W<QLineEdit>("MetaTag_TextBox_0");
+    title->end(false);
+    zentrel::testing::Type(title, QStringLiteral("!"));
+    EXPECT_TRUE(window->isWindowModified()) << route;
+    EXPECT_TRUE(window->windowTitle().startsWith(QString::fromStdString(a) + "[*]   Zentrel"));
+    replace(Choice::Cancel);
+    EXPECT_EQ(title->text(), QStringLiteral("Page A!")) << route;
+    EXPECT_TRUE(window->isVisible()) << route;
+    replace(Choice::Discard);
+    EXPECT_FALSE(window->isVisible() && window->isWindowModified()) << route;
+  }
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(ReadFile(a), Page("Page A", "alpha")) << "Cancel and Discard write nothing";
+
+  window = std::make_unique<MainWindow>(platform);
+  window->show();
+  Load(a);
+  auto* title = W<QLineEdit>("MetaTag_TextBox_0");
+  title->end(false);
+  zentrel::testing::Type(title, QStringLiteral("!"));
+  platform.AnswerSaveChanges(state::SaveChoice::Save);
+  Trigger("Mnu_File_new");
+  EXPECT_NE(ReadFile(a).find("<TITLE>Page A!</TITLE>"), std::string::npos);
+  EXPECT_TRUE(title->text().isEmpty());
+}
+
+// A page with one keyword shows an empty keywords field, so saving drops its keywords tag:
+// the changes shown first name it, and Cancel writes nothing.
+TEST_F(MainWindowTest, TheChangesShownBeforeASaveNameTheKeywordsTagThatGoes) {
+  const std::string page =
+      "<html><head><title>Shoes</title><meta name=\"keywords\" content=\"shoes\"></head>"
+      "<body>shoes</body></html>";
+  const std::string path = Save("one.htm", page);
+  Load(path);
+  platform.saveChanges = false;
+  Click("Picture2");
+  EXPECT_EQ(ReadFile(path), page);
+  ASSERT_EQ(platform.vanishingShown.size(), 1u);
+  EXPECT_EQ(platform.vanishingShown[0], std::vector<std::string>{"META keywords"});
+  EXPECT_EQ(window->statusBar()->currentMessage(), QStringLiteral("Not saved"));
+
+  // The dialog of the desktop program shows the same: the tag named, the line removed.
+  QString heading, diff;
+  QTimer::singleShot(0, [&] {
+    auto* dialog = Find<QDialog>(window.get(), "ChangesDialog");
+    for (const QLabel* label : dialog->findChildren<QLabel*>())
+      heading += label->text();
+    diff = Find<QPlainTextEdit>(dialog, "ChangesDialog_Text")->toPlainText();
+    dialog->reject();
+  });
+  EXPECT_FALSE(Confirm_Changes(window.get(), platform.changesShown[0], platform.vanishingShown[0]));
+  EXPECT_TRUE(heading.contains(QStringLiteral("META keywords")));
+  EXPECT_TRUE(
+      diff.contains(QStringLiteral("-<html><head><title>Shoes</title><meta name=\"keywords\"")));
+}
+
+// A recent page that is gone: the message, and the page in hand stays fully current.
+TEST_F(MainWindowTest, AFailedLoadLeavesThePageInHandCurrent) {
+  const std::string gone = Save("gone.htm", Page("Gone", "x"));
+  Load(gone);
+  const std::string kept = Save("kept.htm", Page("Kept", "alpha"));
+  Load(kept);
+  fs::remove(gone);
+  Trigger("mnu_file_QuickLoadFile2");
+  ASSERT_EQ(platform.messages.size(), 1u);
+  EXPECT_EQ(window->windowTitle(), QString::fromStdString(kept) + "[*]   Zentrel V1.62");
+  Click("Picture2");
+  EXPECT_NE(ReadFile(kept).find("<TITLE>Kept</TITLE>"), std::string::npos);
+  EXPECT_EQ(window->statusBar()->currentMessage(), QStringLiteral("Saved ") + kept.c_str());
+  platform.CancelDialog();
+  Trigger("mnu_File_SAVESA");
+  EXPECT_EQ(platform.dialogs.back().FileName, kept);
+}
+
 // Not a check: writes a picture of each tab with a loaded page when ZENTREL_SCREENSHOT_DIR is set.
 TEST_F(MainWindowTest, Screenshots) {
   const char* out = std::getenv("ZENTREL_SCREENSHOT_DIR");
@@ -392,12 +509,12 @@ TEST_F(MainWindowTest, Screenshots) {
   window->resize(1024, 720);
   Load(Save("shoes.html", ReadTestData("ui_sample_page.html")));
   auto* tabs = W<QTabWidget>("SSTab1");
-  const char* files[] = {"scan_keywords", "edit_meta_tags", "view_body",
-                         "page_report",   "edit_page",      "prefs"};
   for (int i = 0; i < tabs->count(); ++i) {
     tabs->setCurrentIndex(i);
     QCoreApplication::processEvents();
-    const QString file = QString::fromLocal8Bit(out) + "/" + files[i] + ".png";
+    // "Edit &Meta Tags" goes to edit_meta_tags.png.
+    const QString name = tabs->tabText(i).remove(u'&').toLower().replace(u' ', u'_');
+    const QString file = QString::fromLocal8Bit(out) + "/" + name + ".png";
     EXPECT_TRUE(window->grab().save(file)) << file.toStdString();
   }
 }
