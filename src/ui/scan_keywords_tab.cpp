@@ -75,7 +75,8 @@ ScanKeywordsTab::ScanKeywordsTab(View& v, QWidget* parent) : QWidget(parent) {
   minimum->addWidget(MakeCombo(v, keywordBox, "KeyWords_MinKeyWordMatches_DropDown",
                                &f.KeyWords_MinKeyWordMatches_DropDown, 11));
   minimum->addStretch();
-  k->addLayout(minimum, 2, 1);
+  // On a row of its own, so that the options stay narrow enough for a small or scaled screen.
+  k->addLayout(minimum, 3, 0, 1, 2);
   options->addWidget(keywordBox, 2);
 
   auto* wordBox = new QGroupBox(QStringLiteral("Word Options"), this);
