@@ -15,6 +15,7 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTimer>
 #include <memory>
 
 #include "commands/startup.h"
@@ -120,6 +121,36 @@ QString In_Blocks(const QString& text) {
   return out;
 }
 
+// A text in blocks goes into its box a slice at a time: the first at once, each further one
+// when the event loop comes round again, so the window never waits for the whole of it.
+constexpr qsizetype kSliceChars = 128 * 1024;
+
+// Where a slice from `from` ends: at the block end after kSliceChars, or at the text's end.
+qsizetype Slice_End(const QString& text, qsizetype from) {
+  if (text.size() - from <= kSliceChars)
+    return text.size();
+  const qsizetype end = text.indexOf(u'\n', from + kSliceChars);
+  return end < 0 ? text.size() : end;
+}
+
+// Appends the slices of `text` after `from` to the box, one per turn of the event loop, while
+// the box shows the same text (`generation` unchanged).
+void Fill_Later(QPlainTextEdit* w, std::shared_ptr<const QString> text, qsizetype from,
+                std::shared_ptr<int> generation, int mine) {
+  if (from >= text->size() || *generation != mine)
+    return;
+  QTimer::singleShot(0, w, [w, text, from, generation, mine] {
+    if (*generation != mine)
+      return;
+    const qsizetype end = Slice_End(*text, from + 1);
+    QTextCursor cursor(w->document());
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertBlock();
+    cursor.insertText(text->mid(from + 1, end - from - 1));
+    Fill_Later(w, text, end, generation, mine);
+  });
+}
+
 QString MenuText(QString caption) {
   return caption.replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
@@ -189,13 +220,21 @@ void FormBinding::TextArea(QPlainTextEdit* w, std::string* field, Layout layout)
   QObject::connect(w, &QPlainTextEdit::textChanged, w, [shown] { shown->dirty = true; });
   // Sets the text last taken from the Form, in the codec of the push that took it (the codec
   // changes only in a push, and a push after a change takes the text again).
-  auto setText = [this, w, shown, crlf, layout, &deferred] {
+  auto generation = std::make_shared<int>(0);
+  auto setText = [this, w, shown, crlf, layout, generation, &deferred] {
     const QSignalBlocker block(w);
     const BusyWhileLong busy(shown->bytes.size());
     deferred.text = false;
     *crlf = UsesCrLf(shown->bytes);
-    const QString text = Show(shown->bytes, TextKind::Page);
-    w->setPlainText(layout == Layout::Blocks ? In_Blocks(text) : text);
+    const int mine = ++*generation;
+    if (layout == Layout::Blocks) {
+      auto text = std::make_shared<const QString>(In_Blocks(Show(shown->bytes, TextKind::Page)));
+      const qsizetype first = Slice_End(*text, 0);
+      w->setPlainText(text->left(first));
+      Fill_Later(w, text, first, generation, mine);
+    } else {
+      w->setPlainText(Show(shown->bytes, TextKind::Page));
+    }
     shown->dirty = false;
   };
   deferred.showText = setText;

@@ -83,6 +83,7 @@ MetaTagsTab::MetaTagsTab(View& v, QWidget* parent) : QWidget(parent) {
                            "writes the fields into the page on \"Edit Page\"; the save "
                            "button writes it over the loaded file."));
   hint->setWordWrap(true);
+  hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   // The grid does not grow for a wrapped label; room for four lines keeps it whole.
   hint->setMinimumHeight(4 * hint->fontMetrics().lineSpacing());
   grid->addWidget(hint, state::kMetaTagFieldCount + 1, 1, 1, 3);

@@ -27,6 +27,9 @@ QWidget* ResultBox(View& v, QWidget* parent, const char* title, const char* name
   layout->addWidget(MakeLabel(box, QString::fromLatin1(title)));
   auto* text = MakeTextArea(v, box, name, field, true);
   text->setFont(FixedFont());
+  // The style's sunken frame loses lines at fractional scale factors (1.5) beside these
+  // boxes; a plain border of one logical pixel is drawn whole at every scale.
+  text->setStyleSheet(QStringLiteral("QPlainTextEdit { border: 1px solid palette(mid); }"));
   layout->addWidget(text, 1);
   return box;
 }
