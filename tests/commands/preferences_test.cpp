@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "commands/control_table.h"
 #include "fake_platform.h"
 #include "full_disk.h"
 #include "state/app_state.h"
@@ -63,6 +64,15 @@ TEST(SavePreferencesFile, WritesEveryEntryInOrder) {
   SavePreferencesFile(s);
   EXPECT_EQ(ReadFile(p.path).find("FileLoaded:"), std::string::npos);
   EXPECT_EQ(ReadFile(p.path).find("DefaultWordFilterDictionary:"), std::string::npos);
+}
+
+// The minimum picked beside "Remove Keywords With Less Than" is what the file keeps.
+TEST(SavePreferencesFile, KeepsTheMinimumMatchesPicked) {
+  Prefs p;
+  p.s.Form.KeyWords_MinKeyWordMatches_DropDown.Text = " 7 Matches";
+  ASSERT_TRUE(Dispatch(p.s, "KeyWords_MinKeyWordMatches_DropDown"));
+  SavePreferencesFile(p.s);
+  EXPECT_NE(ReadFile(p.path).find("Keywords_NumberOfMinMatches: 7\r\n"), std::string::npos);
 }
 
 TEST(SavePreferencesFile, AFailingWriteKeepsTheOldFile) {
