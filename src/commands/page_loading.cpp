@@ -5,6 +5,7 @@
 #include "base/file_io.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "commands/checks.h"
 #include "commands/choice_lists.h"
 #include "commands/edit_meta_tags.h"
 #include "commands/scan_keywords.h"
@@ -42,6 +43,7 @@ int32_t Load_File_To_Cache(AppState& s, const std::string& path, int16_t skipRec
     s.CurrentFileName = path;
     int32_t length = document::DO_LOAD_File_TO_CACHE(s, path);
     s.Form.Html_Document_Editor = s.DocumentText;
+    Clear_Page_Checks(s);  // the analysis checks the page; an empty one has none
     SET_PROGRAM_TITLE(s, s.CurrentFileName);
     return length;
   } catch (const file_io::FileError& e) {
@@ -84,7 +86,7 @@ void Load_Chosen_Page(AppState& s, const std::string& path) {
     return;
   s.DocumentLength = Load_File_To_Cache(s, path, 0);
   if (s.DocumentLength != 0)
-    Meta_Tag_KeyWord_Scan(s, path);
+    Check_And_Scan(s, path);
 }
 
 std::string Do_Select_Load_File(AppState& s, const std::string& filter, int16_t filterIndex,
@@ -106,7 +108,7 @@ void Load_File_QuickLoadMenu(AppState& s, int16_t index) {
   // Re-opening an entry leaves the list as it is.
   s.DocumentLength = Load_File_To_Cache(s, path, 1);
   if (s.DocumentLength > 0)
-    Meta_Tag_KeyWord_Scan(s, path);
+    Check_And_Scan(s, path);
 }
 
 void Show_Quick_Load_File_MNU_Listings(AppState& s) {
@@ -152,6 +154,7 @@ void Clear_Document(AppState& s) {
   decode::Clear_MetaTag_Values(s);
   Set_Metatag_Page_TextBoxes(s);
   Set_Drop_Downs(s);
+  Clear_Page_Checks(s);
   SET_PROGRAM_TITLE(s, s.CurrentFileName);
 }
 
