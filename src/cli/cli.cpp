@@ -33,15 +33,17 @@ constexpr const char* kUsageText =
     "usage: zentrel-cli report   [OPTIONS] PAGE...\n"
     "       zentrel-cli analyse  [OPTIONS] PAGE...\n"
     "       zentrel-cli validate [OPTIONS] PAGE...\n"
-    "       zentrel-cli rebuild  [OPTIONS] PAGE -o OUT [--tags FILE.tag] [--set NAME=VALUE]..."
-    " [--force]\n"
+    "       zentrel-cli rebuild  [OPTIONS] PAGE (-o OUT | --diff | -o OUT --diff)\n"
+    "                            [--tags FILE.tag] [--set NAME=VALUE]... [--force]\n"
     "       zentrel-cli lint [--profile FILE] [--format text|json|sarif] [--jobs N] PATH...\n"
     "\n"
     "  report    the page report of each PAGE, as the \"Page Report\" tab shows it\n"
     "  analyse   one JSON object per PAGE with the report, the result boxes and the fields\n"
     "  validate  \"PAGE: OK\" or \"PAGE: \" and the section error; exit 1 when any page fails\n"
     "  rebuild   analyse PAGE, mark every META tag field, load FILE.tag, apply each --set,\n"
-    "            and save to OUT; a section error is refused unless --force\n"
+    "            and save to OUT; a section error is refused unless --force; --diff prints\n"
+    "            what the save changes (lines removed \"-\", added \"+\", \"!\" for a tag\n"
+    "            that disappears), instead of saving or, with -o, as well\n"
     "  lint      check what search engines read from pages and folders of pages\n"
     "            (zentrel-cli lint --help tells more; the OPTIONS below do not apply)\n"
     "\n"
@@ -63,7 +65,7 @@ struct Options {
   std::vector<std::string> pages;
   std::optional<std::string> prefs, dictionary, keywords, out, tags;
   std::vector<std::pair<std::string, std::string>> sets;
-  bool includeWordCount = false, showRawBody = false, force = false, help = false;
+  bool includeWordCount = false, showRawBody = false, force = false, diff = false, help = false;
 };
 
 class UsageError : public std::runtime_error {
@@ -98,6 +100,8 @@ Options Parse(const std::vector<std::string>& args) {
       o.tags = value(i);
     } else if (a == "--force") {
       o.force = true;
+    } else if (a == "--diff") {
+      o.diff = true;
     } else if (a == "--set") {
       std::string pair = value(i);
       size_t eq = pair.find('=');
@@ -123,10 +127,10 @@ void Validate_Options(const Options& o) {
   if (o.pages.empty())
     throw UsageError("no PAGE given");
   const bool rebuild = o.command == "rebuild";
-  if (rebuild && (o.pages.size() != 1 || !o.out))
-    throw UsageError("rebuild takes one PAGE and -o OUT");
-  if (!rebuild && (o.out || o.tags || !o.sets.empty() || o.force)) {
-    throw UsageError("-o, --tags, --set and --force belong to rebuild");
+  if (rebuild && (o.pages.size() != 1 || (!o.out && !o.diff)))
+    throw UsageError("rebuild takes one PAGE and -o OUT, --diff or both");
+  if (!rebuild && (o.out || o.tags || !o.sets.empty() || o.force || o.diff)) {
+    throw UsageError("-o, --tags, --set, --force and --diff belong to rebuild");
   }
 }
 
@@ -171,6 +175,7 @@ class Session {
   // False when start-up or an option ended in an error (already on stderr).
   bool Started() const { return started_; }
   AppState& state() { return state_; }
+  CliPlatform& platform() { return platform_; }
 
   // Loads as "Load Page" does (recent list untouched); false when the file cannot be read.
   bool Load(const std::string& page) {
@@ -221,11 +226,25 @@ int Run_Page(Session& session, const Options& o, const std::string& page, std::o
   return error ? kPageFailed : kOk;
 }
 
-int Run_Rebuild(const Options& o, std::ostream& err, const std::string& folder) {
+// Saves to OUT, or with --diff alone only finds what the save would change; either way the
+// changes go to `out` with --diff. Backups are the window's: the command line writes OUT alone.
+bool Save_Or_Show(AppState& s, const Options& o, std::ostream& out) {
+  s.SaveShowChanges = o.diff ? 1 : 0;
+  s.SaveKeepBackup = 0;
+  if (o.out)
+    return commands::HTML_ENCODE_Document(s, *o.out, 0);
+  std::optional<metatags::HeadDiff> diff = commands::Preview_Save(s);
+  if (diff)
+    out << diff->Text;
+  return diff.has_value();
+}
+
+int Run_Rebuild(const Options& o, std::ostream& out, std::ostream& err, const std::string& folder) {
   const std::string& page = o.pages.front();
   Session session(o, err, folder);
   if (!session.Started())
     return kPageFailed;
+  session.platform().ShowChangesOn(&out);
   std::vector<std::pair<int16_t, std::string>> fields;
   for (const auto& [name, value] : o.sets) {
     int16_t i = decode::Find_MetaTag_Index(session.state(), name);
@@ -246,7 +265,7 @@ int Run_Rebuild(const Options& o, std::ostream& err, const std::string& folder) 
           commands::Apply_MetaTag_List_Text(s, file_io::ReadWholeFile(*o.tags));
         for (const auto& [i, value] : fields)
           commands::Set_MetaTag_TextBox(s, i, value);
-        written = commands::HTML_ENCODE_Document(s, *o.out, 0);
+        written = Save_Or_Show(s, o, out);
       }))
     return kPageFailed;
   if (!written) {
@@ -282,7 +301,7 @@ int Run_Cli(const std::vector<std::string>& args, std::ostream& out, std::ostrea
     return kUsage;
   }
   if (o.command == "rebuild")
-    return Run_Rebuild(o, err, executableFolder);
+    return Run_Rebuild(o, out, err, executableFolder);
   int status = kOk;
   for (const std::string& page : o.pages) {
     Session session(o, err, executableFolder);

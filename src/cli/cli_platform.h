@@ -17,6 +17,14 @@ class CliPlatform : public state::Platform {
   bool ShowOpen(state::FileDialog&) override { return false; }
   bool ShowSave(state::FileDialog&) override { return false; }
   bool AskYesNo(const std::string& title, const std::string& text) override;
+  // The changes go to the stream given to ShowChangesOn (and the save goes on); a save is
+  // never asked about otherwise.
+  bool ConfirmChanges(const std::string& diffText, const std::vector<std::string>&) override {
+    if (changesOut_ != nullptr)
+      *changesOut_ << diffText;
+    return true;
+  }
+  void ShowChangesOn(std::ostream* out) { changesOut_ = out; }
   void ShowMessage(const std::string& text) override;
   void ShowCritical(const std::string& text) override { ShowMessage(text); }
   void BeginBusy() override {}
@@ -35,6 +43,7 @@ class CliPlatform : public state::Platform {
   bool answerYes_;
   int messages_ = 0;
   std::string subject_;
+  std::ostream* changesOut_ = nullptr;
 };
 
 }  // namespace zentrel::cli

@@ -7,6 +7,7 @@
 #include "commands/page_loading.h"
 #include "commands/startup.h"
 #include "document/document_cache.h"
+#include "metatags/head_diff.h"
 #include "metatags/page_encoder.h"
 #include "state/app_state.h"
 
@@ -65,32 +66,59 @@ void Take_Written_Page(AppState& s, int32_t written) {
   s.Form.Html_Document_Editor = s.DocumentText;
 }
 
+// The page from the source editor, its sections checked: false when there is nothing to
+// write (no file name, an empty page) or the WARNING question was answered No.
+bool Ready_To_Encode(AppState& s, bool named, int16_t rebuildFlag) {
+  s.DocumentLength = document::Reload_File_From_Memory_TO_Cache(s);
+  if (!named || s.DocumentLength == 0)
+    return false;
+  const std::string error = metatags::Rescan_For_Encoding(s);
+  if (error.empty())
+    return true;
+  const char* suffix = rebuildFlag != 0 ? kRebuildSuffix : kSaveSuffix;
+  return s.platform->AskYesNo("WARNING", "WARNING - " + error + suffix);
+}
+
+// The file a save replaces, kept beside it as FILE.bak (itself replaced atomically).
+void Keep_Backup(AppState& s, const std::string& target) {
+  std::error_code ec;
+  if (std::filesystem::is_regular_file(target, ec))
+    file_io::WriteFileAtomic(target + ".bak", file_io::ReadWholeFile(target), *s.files);
+}
+
 }  // namespace
 
 bool HTML_ENCODE_Document(AppState& s, const std::string& fileName, int16_t rebuildFlag) {
   state::BusyCursor busy(*s.platform);
-  s.DocumentLength = document::Reload_File_From_Memory_TO_Cache(s);
-  if (fileName.empty() || s.DocumentLength == 0)
+  if (!Ready_To_Encode(s, !fileName.empty(), rebuildFlag))
     return false;
-
-  const std::string error = metatags::Rescan_For_Encoding(s);
-  if (!error.empty()) {
-    const char* suffix = rebuildFlag != 0 ? kRebuildSuffix : kSaveSuffix;
-    if (!s.platform->AskYesNo("WARNING", "WARNING - " + error + suffix))
-      return false;
-  }
-
-  const std::string target =
-      rebuildFlag == 1 ? s.ProgramFolder + "/" + kTempDataFileName : fileName;
-  TempFileRemover removeTemp(*s.files, rebuildFlag == 1 ? target : std::string());
+  const bool save = rebuildFlag == 0;
+  const std::string target = save ? fileName : s.ProgramFolder + "/" + kTempDataFileName;
+  TempFileRemover removeTemp(*s.files, save ? std::string() : target);
   CacheRestore restore(s);
   const int32_t written = metatags::Rebuild_Page(s);
+  if (save && s.SaveShowChanges == 1) {
+    const metatags::HeadDiff diff = metatags::Head_Diff(s);
+    if (!diff.Text.empty() && !s.platform->ConfirmChanges(diff.Text, diff.Vanishing))
+      return false;
+  }
+  if (save && s.SaveKeepBackup == 1)
+    Keep_Backup(s, target);
   const std::vector<uint8_t>& page = s.RebuildBytes;
   file_io::WriteFileAtomic(
       target, std::string_view(reinterpret_cast<const char*>(page.data()), page.size()), *s.files);
   Take_Written_Page(s, written);
   restore.Dismiss();
   return true;
+}
+
+std::optional<metatags::HeadDiff> Preview_Save(AppState& s) {
+  state::BusyCursor busy(*s.platform);
+  if (!Ready_To_Encode(s, true, 0))
+    return std::nullopt;
+  CacheRestore restore(s);
+  metatags::Rebuild_Page(s);
+  return metatags::Head_Diff(s);
 }
 
 void Do_save(AppState& s) {

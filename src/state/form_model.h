@@ -119,6 +119,9 @@ struct FormModel {
   int16_t MetaTagEncodePref_UseComaSpaceBetweenKeyWords_CheckBox = 0;
   int16_t TagsOption_USE_META_TITLE = 0;
   int16_t Check2 = 0;  // "Replace Known META TAGS": shown only
+  // "Prefs": saving.
+  int16_t SavePref_ShowChanges_CheckBox = 0;
+  int16_t SavePref_KeepBackup_CheckBox = 0;
   // "Prefs": environment.
   DropDown Defaults_Users_FileExtend_DropDown;
 

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace zentrel::state {
 
@@ -27,6 +28,10 @@ class Platform {
 
   // A modal question with Yes and No and a question icon; true for Yes.
   virtual bool AskYesNo(const std::string& title, const std::string& text) = 0;
+  // What a save will change (a line diff, and the tags that disappear), with Save and Cancel
+  // buttons; true for Save.
+  virtual bool ConfirmChanges(const std::string& diffText,
+                              const std::vector<std::string>& vanishingTags) = 0;
   // A message box with an OK button.
   virtual void ShowMessage(const std::string& text) = 0;
   // A message box for a fault of the program itself (a control without a handler).

@@ -34,6 +34,8 @@ struct SettingsFields {
   int16_t EncodeComaSpaceBetweenKeywords = 0;
   int16_t ReportExportWordCount = 0;
   int16_t ViewBodyShowRaw = 0;
+  int16_t SaveShowChanges = 0;  // show what a save changes in the head, and ask, before writing
+  int16_t SaveKeepBackup = 0;   // keep the file a save replaces as FILE.bak
   std::string WordDelimiterChars;
   std::string DefaultFileExtension = ".htm";
   int32_t DefaultFileTypeIndex = 2;

@@ -17,6 +17,7 @@ class SilentPlatform : public Platform {
   bool ShowOpen(FileDialog&) override { return false; }
   bool ShowSave(FileDialog&) override { return false; }
   bool AskYesNo(const std::string&, const std::string&) override { return true; }
+  bool ConfirmChanges(const std::string&, const std::vector<std::string>&) override { return true; }
   void ShowMessage(const std::string&) override {}
   void ShowCritical(const std::string&) override {}
   void BeginBusy() override {}

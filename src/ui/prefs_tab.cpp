@@ -114,13 +114,21 @@ QGroupBox* EncoderPrefs(View& v, QWidget* parent) {
 }
 
 QGroupBox* EnvironmentPrefs(View& v, QWidget* parent) {
+  state::FormModel& f = v.s.Form;
   auto* box = new QGroupBox(QStringLiteral("Environment Prefs"), parent);
   box->setObjectName(QStringLiteral("Environment_Prefs_Frame"));
-  auto* layout = new QHBoxLayout(box);
-  layout->addWidget(MakeLabel(box, QStringLiteral("Default File Extension")));
-  layout->addWidget(MakeCombo(v, box, "Defaults_Users_FileExtend_DropDown",
-                              &v.s.Form.Defaults_Users_FileExtend_DropDown, 6));
-  layout->addStretch();
+  auto* layout = new QVBoxLayout(box);
+  auto* extension = new QHBoxLayout;
+  extension->addWidget(MakeLabel(box, QStringLiteral("Default File Extension")));
+  extension->addWidget(MakeCombo(v, box, "Defaults_Users_FileExtend_DropDown",
+                                 &f.Defaults_Users_FileExtend_DropDown, 6));
+  extension->addStretch();
+  layout->addLayout(extension);
+  layout->addWidget(MakeCheck(v, box, "SavePref_ShowChanges_CheckBox", "Show changes before saving",
+                              &f.SavePref_ShowChanges_CheckBox));
+  layout->addWidget(MakeCheck(v, box, "SavePref_KeepBackup_CheckBox",
+                              "Keep the replaced page as a .bak file",
+                              &f.SavePref_KeepBackup_CheckBox));
   return box;
 }
 

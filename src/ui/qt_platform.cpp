@@ -8,6 +8,7 @@
 #include <QUrl>
 
 #include "commands/startup.h"
+#include "ui/changes_dialog.h"
 #include "ui/text_codec.h"
 
 namespace zentrel::ui {
@@ -25,6 +26,11 @@ bool QtPlatform::AskYesNo(const std::string& title, const std::string& text) {
                   QString::fromLocal8Bit(text), QMessageBox::Yes | QMessageBox::No, owner_);
   box.setDefaultButton(QMessageBox::Yes);
   return box.exec() == QMessageBox::Yes;
+}
+
+bool QtPlatform::ConfirmChanges(const std::string& diffText,
+                                const std::vector<std::string>& vanishingTags) {
+  return Confirm_Changes(owner_, diffText, vanishingTags);
 }
 
 void QtPlatform::ShowMessage(const std::string& text) {

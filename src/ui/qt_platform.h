@@ -16,6 +16,8 @@ class QtPlatform : public state::Platform {
   bool ShowOpen(state::FileDialog& dialog) override;
   bool ShowSave(state::FileDialog& dialog) override;
   bool AskYesNo(const std::string& title, const std::string& text) override;
+  bool ConfirmChanges(const std::string& diffText,
+                      const std::vector<std::string>& vanishingTags) override;
   void ShowMessage(const std::string& text) override;
   void ShowCritical(const std::string& text) override;
   void BeginBusy() override;

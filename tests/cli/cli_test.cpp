@@ -228,6 +228,26 @@ TEST(Cli, RebuildWritesTheFieldsAndRefusesSectionErrorsWithoutForce) {
   EXPECT_TRUE(fs::exists(dir.File("bad-out.html")));
 }
 
+// --diff alone shows what the save would change and writes nothing; with -o it does both.
+TEST(Cli, RebuildDiffShowsTheChangesWithOrWithoutWriting) {
+  TempFolder dir;
+  WriteFile(dir.File("page.html"), kSanePage);
+  Result shown = RunCli({"rebuild", dir.File("page.html"), "--diff", "--set", "keywords="});
+  ASSERT_EQ(shown.status, 0) << shown.err;
+  EXPECT_NE(shown.out.find("\n-<meta name=\"keywords\" content=\"shoes, red shoes\">\n"),
+            std::string::npos);
+  EXPECT_NE(shown.out.find("\n+<head><TITLE>Red Shoes</TITLE>\n"), std::string::npos);
+  EXPECT_TRUE(shown.out.ends_with("! META keywords disappears\n"));
+  EXPECT_EQ(ReadFile(dir.File("page.html")), kSanePage);
+  EXPECT_EQ(std::distance(fs::directory_iterator(dir.path()), fs::directory_iterator()), 1);
+
+  Result both = RunCli({"rebuild", dir.File("page.html"), "--diff", "--set", "keywords=", "-o",
+                        dir.File("out.html")});
+  ASSERT_EQ(both.status, 0) << both.err;
+  EXPECT_EQ(both.out, shown.out);
+  EXPECT_EQ(ReadFile(dir.File("out.html")).find("keywords"), std::string::npos);
+}
+
 // What cannot be read (a FIFO with no writer, an endless device, a file over the ceiling)
 // ends the command at once with status 2 and names the file.
 TEST(Cli, FilesThatCannotBeReadEndTheCommandAtOnce) {

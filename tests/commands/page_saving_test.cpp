@@ -56,6 +56,31 @@ TEST(mnu_File_SAVE_Click, NeverWritesAndPicture2OverwritesTheLoadedFile) {
   EXPECT_EQ(ReadFile(path), kSavedPage);
 }
 
+// The save shows what it changes (the description the empty field drops, named) before it
+// writes; Cancel writes nothing, Save keeps the replaced file as .bak when asked to.
+TEST(Picture2_Click, ShowsTheChangesFirstAndKeepsABackupWhenAsked) {
+  EncoderTestPage page;
+  std::string path = page.Load("encoder_page.html");
+  const std::string original = ReadTestData("encoder_page.html");
+  commands::Set_MetaTag_TextBox(page.s, 0, "Saved");
+  page.s.SaveShowChanges = 1;
+  page.platform.saveChanges = false;
+  Picture2_Click(page.s);
+  ASSERT_EQ(page.platform.changesShown.size(), 1U);
+  EXPECT_NE(
+      page.platform.changesShown[0].find("-<meta name=\"description\" content=\"old desc\">\n"),
+      std::string::npos);
+  EXPECT_EQ(page.platform.vanishingShown[0], std::vector<std::string>{"META description"});
+  EXPECT_EQ(ReadFile(path), original);
+  EXPECT_EQ(page.Cache(), original);
+
+  page.platform.saveChanges = true;
+  page.s.SaveKeepBackup = 1;
+  Picture2_Click(page.s);
+  EXPECT_EQ(ReadFile(path), kSavedPage);
+  EXPECT_EQ(ReadFile(path + ".bak"), original);
+}
+
 class FullDisk : public file_io::FileSystem {
  public:
   ssize_t Write(int, const char*, size_t) override {

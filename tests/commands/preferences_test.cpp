@@ -43,6 +43,7 @@ TEST(SavePreferencesFile, WritesEveryEntryInOrder) {
   s.RecentFiles[1] = "/pages/old.html";
   s.RecentFileCount = 2;
   s.FilterDictionaryFile = "/dict/mine.txt";
+  s.SaveShowChanges = 1;
   SavePreferencesFile(s);
   EXPECT_EQ(ReadFile(p.path),
             "ProgramTitle:Zentrel\r\nProgramVersion:V1.62\r\n"
@@ -53,7 +54,8 @@ TEST(SavePreferencesFile, WritesEveryEntryInOrder) {
             "WordMatch_ForceSameCase: 1\r\nWordMatch_ForceAlphaNumeric: 0\r\n"
             "FileType:.html\r\nFileTypeIndex: 1\r\nStopWordChrs:\".&COMA&;\r\n"
             "SwapContentNameOrder: 1\r\nKeywordsComaSpace: 0\r\nIncludeMetaDizzy: 1\r\n"
-            "DefaultWordFilterDictionary:/dict/mine.txt\r\n");
+            "DefaultWordFilterDictionary:/dict/mine.txt\r\n"
+            "ShowChangesBeforeSaving: 1\r\nKeepBackupOnSave: 0\r\n");
 
   // No recent pages and no default dictionary: neither kind of line is written.
   s.RecentFileCount = 0;

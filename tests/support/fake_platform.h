@@ -26,6 +26,13 @@ class FakePlatform : public state::Platform {
   bool ShowOpen(state::FileDialog& dialog) override;
   bool ShowSave(state::FileDialog& dialog) override;
   bool AskYesNo(const std::string& title, const std::string& text) override;
+  // Logs the diff and answers saveChanges.
+  bool ConfirmChanges(const std::string& diffText,
+                      const std::vector<std::string>& vanishingTags) override {
+    changesShown.push_back(diffText);
+    vanishingShown.push_back(vanishingTags);
+    return saveChanges;
+  }
   void ShowMessage(const std::string& text) override;
   void ShowCritical(const std::string& text) override { criticals.push_back(text); }
   void BeginBusy() override {
@@ -43,6 +50,9 @@ class FakePlatform : public state::Platform {
   std::vector<std::string> criticals;
   std::vector<state::FileDialog> dialogs;  // what each dialog was shown with
   std::vector<std::string> openedDocuments;
+  std::vector<std::string> changesShown;
+  std::vector<std::vector<std::string>> vanishingShown;
+  bool saveChanges = true;
   int busyDepth = 0;
   int busyCount = 0;
   long eventsRun = 0;
@@ -65,6 +75,9 @@ class CancellingPlatform : public FakePlatform {
   bool ShowOpen(state::FileDialog&) override { return false; }
   bool ShowSave(state::FileDialog&) override { return false; }
   bool AskYesNo(const std::string&, const std::string&) override { return false; }
+  bool ConfirmChanges(const std::string&, const std::vector<std::string>&) override {
+    return false;
+  }
 };
 
 }  // namespace zentrel::testing
