@@ -392,8 +392,8 @@ TEST_F(MainWindowTest, Screenshots) {
   window->resize(1024, 720);
   Load(Save("shoes.html", ReadTestData("ui_sample_page.html")));
   auto* tabs = W<QTabWidget>("SSTab1");
-  const char* files[] = {"scan_keywords", "edit_meta_tags", "view_body",
-                         "page_report",   "edit_page",      "prefs"};
+  const char* files[] = {"scan_keywords", "edit_meta_tags", "view_body", "page_report",
+                         "checks",        "edit_page",      "prefs"};
   for (int i = 0; i < tabs->count(); ++i) {
     tabs->setCurrentIndex(i);
     QCoreApplication::processEvents();
