@@ -11,6 +11,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 #include <array>
+#include <tuple>
 #include <vector>
 
 #include "state/app_state.h"
