@@ -219,7 +219,7 @@ FindingList::FindingList(const Profile& profile, const LineIndex& lines)
 void FindingList::Add(Rule rule, size_t offset, std::string message) {
   const RuleSetting& setting = profile_.Setting(rule);
   if (setting.enabled)
-    findings_.push_back({rule, setting.severity, lines_.At(offset), std::move(message)});
+    findings_.push_back({rule, setting.severity, lines_.At(offset), offset, std::move(message)});
 }
 
 std::string FindingList::LineOf(size_t offset) const {

@@ -19,6 +19,7 @@ struct Finding {
   Rule rule;
   Severity severity;
   Position at;
+  size_t offset = 0;    // the byte where the tag (or text) it is about starts
   std::string message;  // UTF-8
 };
 

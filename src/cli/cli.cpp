@@ -20,6 +20,7 @@
 #include "decode/meta_tag_table.h"
 #include "decode/section_validation.h"
 #include "state/app_state.h"
+#include "state/silent_platform.h"
 
 namespace zentrel::cli {
 
@@ -35,6 +36,8 @@ constexpr const char* kUsageText =
     "       zentrel-cli validate [OPTIONS] PAGE...\n"
     "       zentrel-cli rebuild  [OPTIONS] PAGE (-o OUT | --diff | -o OUT --diff)\n"
     "                            [--tags FILE.tag] [--set NAME=VALUE]... [--force]\n"
+    "       zentrel-cli apply    [OPTIONS] --tags FILE.tag [--set NAME=VALUE]... [--force]\n"
+    "                            [--dry-run] PAGE...\n"
     "       zentrel-cli lint [--profile FILE] [--format text|json|sarif] [--jobs N] PATH...\n"
     "       zentrel-cli --version\n"
     "\n"
@@ -45,6 +48,8 @@ constexpr const char* kUsageText =
     "            and save to OUT; a section error is refused unless --force; --diff prints\n"
     "            what the save changes (lines removed \"-\", added \"+\", \"!\" for a tag\n"
     "            that disappears), instead of saving or, with -o, as well\n"
+    "  apply     the same for each PAGE, saved over itself as the save button saves it;\n"
+    "            --dry-run writes nothing and prints each page's changes\n"
     "  lint      check what search engines read from pages and folders of pages\n"
     "            (zentrel-cli lint --help tells more; the OPTIONS below do not apply)\n"
     "\n"
@@ -66,7 +71,8 @@ struct Options {
   std::vector<std::string> pages;
   std::optional<std::string> prefs, dictionary, keywords, out, tags;
   std::vector<std::pair<std::string, std::string>> sets;
-  bool includeWordCount = false, showRawBody = false, force = false, diff = false, help = false;
+  bool includeWordCount = false, showRawBody = false, force = false, diff = false, help = false,
+       dryRun = false;
 };
 
 class UsageError : public std::runtime_error {
@@ -103,6 +109,8 @@ Options Parse(const std::vector<std::string>& args) {
       o.force = true;
     } else if (a == "--diff") {
       o.diff = true;
+    } else if (a == "--dry-run") {
+      o.dryRun = true;
     } else if (a == "--set") {
       std::string pair = value(i);
       size_t eq = pair.find('=');
@@ -121,18 +129,24 @@ Options Parse(const std::vector<std::string>& args) {
 }
 
 void Validate_Options(const Options& o) {
-  static const std::vector<std::string> commands = {"report", "analyse", "validate", "rebuild"};
+  static const std::vector<std::string> commands = {"report", "analyse", "validate", "rebuild",
+                                                    "apply"};
   if (std::find(commands.begin(), commands.end(), o.command) == commands.end()) {
     throw UsageError(o.command.empty() ? "no command given" : "unknown command " + o.command);
   }
   if (o.pages.empty())
     throw UsageError("no PAGE given");
-  const bool rebuild = o.command == "rebuild";
+  const bool rebuild = o.command == "rebuild", apply = o.command == "apply";
   if (rebuild && (o.pages.size() != 1 || (!o.out && !o.diff)))
     throw UsageError("rebuild takes one PAGE and -o OUT, --diff or both");
-  if (!rebuild && (o.out || o.tags || !o.sets.empty() || o.force || o.diff)) {
-    throw UsageError("-o, --tags, --set, --force and --diff belong to rebuild");
-  }
+  if (!rebuild && (o.out || o.diff))
+    throw UsageError("-o and --diff belong to rebuild");
+  if (apply && !o.tags)
+    throw UsageError("apply needs --tags FILE.tag");
+  if (!apply && o.dryRun)
+    throw UsageError("--dry-run belongs to apply");
+  if (!rebuild && !apply && (o.tags || !o.sets.empty() || o.force))
+    throw UsageError("--tags, --set and --force belong to rebuild and apply");
 }
 
 // A file the command line must be able to read; a clear message otherwise.
@@ -240,21 +254,35 @@ bool Save_Or_Show(AppState& s, const Options& o, std::ostream& out) {
   return diff.has_value();
 }
 
-int Run_Rebuild(const Options& o, std::ostream& out, std::ostream& err, const std::string& folder) {
-  const std::string& page = o.pages.front();
-  Session session(o, err, folder);
-  if (!session.Started())
-    return kPageFailed;
-  session.platform().ShowChangesOn(&out);
-  std::vector<std::pair<int16_t, std::string>> fields;
+using FieldValues = std::vector<std::pair<int16_t, std::string>>;
+
+// The fields that --set names, found in the META tag table alone; nothing (the message on err)
+// when a name has no field.
+std::optional<FieldValues> Set_Fields(const Options& o, std::ostream& err) {
+  state::SilentPlatform quiet;
+  AppState names(quiet);
+  decode::Init_MetaTag_Table(names);
+  FieldValues fields;
   for (const auto& [name, value] : o.sets) {
-    int16_t i = decode::Find_MetaTag_Index(session.state(), name);
+    int16_t i = decode::Find_MetaTag_Index(names, name);
     if (i < 0 || i >= state::kMetaTagFieldCount) {
       err << "zentrel-cli: --set: unknown META tag name " << name << "\n";
-      return kUsage;
+      return std::nullopt;
     }
     fields.emplace_back(i, value);
   }
+  return fields;
+}
+
+// Loads and analyses the page, marks every field, loads FILE.tag and applies each --set; then
+// `save` writes (or shows) the page. The exit status of the page.
+int Fill_And_Save(const Options& o, const FieldValues& fields, const std::string& page,
+                  std::ostream& err, const std::string& folder,
+                  const std::function<bool(AppState&)>& save, std::ostream* changes = nullptr) {
+  Session session(o, err, folder);
+  if (!session.Started())
+    return kPageFailed;
+  session.platform().ShowChangesOn(changes);
   if (!session.Load(page))
     return kUsage;
   bool written = false;
@@ -266,7 +294,7 @@ int Run_Rebuild(const Options& o, std::ostream& out, std::ostream& err, const st
           commands::Apply_MetaTag_List_Text(s, file_io::ReadWholeFile(*o.tags));
         for (const auto& [i, value] : fields)
           commands::Set_MetaTag_TextBox(s, i, value);
-        written = Save_Or_Show(s, o, out);
+        written = save(s);
       }))
     return kPageFailed;
   if (!written) {
@@ -274,6 +302,35 @@ int Run_Rebuild(const Options& o, std::ostream& out, std::ostream& err, const st
     return kPageFailed;
   }
   return kOk;
+}
+
+int Run_Rebuild(const Options& o, const FieldValues& fields, std::ostream& out, std::ostream& err,
+                const std::string& folder) {
+  return Fill_And_Save(
+      o, fields, o.pages.front(), err, folder, [&](AppState& s) { return Save_Or_Show(s, o, out); },
+      &out);
+}
+
+// Each page saved over itself as the save button saves it, or with --dry-run only its changes
+// shown, under a "--- PAGE" and "+++ PAGE" header as a unified diff has. Every page is tried;
+// the status is the worst of them.
+int Run_Apply(const Options& o, const FieldValues& fields, std::ostream& out, std::ostream& err,
+              const std::string& folder) {
+  int status = kOk;
+  for (const std::string& page : o.pages) {
+    const int pageStatus = Fill_And_Save(o, fields, page, err, folder, [&](AppState& s) {
+      s.SaveShowChanges = 0;
+      s.SaveKeepBackup = 0;
+      if (!o.dryRun)
+        return commands::HTML_ENCODE_Document(s, page, 0);
+      const std::optional<metatags::HeadDiff> diff = commands::Preview_Save(s);
+      if (diff)
+        out << "--- " << page << "\n+++ " << page << "\n" << diff->Text;
+      return diff.has_value();
+    });
+    status = std::max(status, pageStatus);
+  }
+  return status;
 }
 
 }  // namespace
@@ -305,8 +362,13 @@ int Run_Cli(const std::vector<std::string>& args, std::ostream& out, std::ostrea
     err << "zentrel-cli: " << e.what() << "\n" << kUsageText;
     return kUsage;
   }
-  if (o.command == "rebuild")
-    return Run_Rebuild(o, out, err, executableFolder);
+  if (o.command == "rebuild" || o.command == "apply") {
+    const std::optional<FieldValues> fields = Set_Fields(o, err);
+    if (!fields)
+      return kUsage;
+    return o.command == "rebuild" ? Run_Rebuild(o, *fields, out, err, executableFolder)
+                                  : Run_Apply(o, *fields, out, err, executableFolder);
+  }
   int status = kOk;
   for (const std::string& page : o.pages) {
     Session session(o, err, executableFolder);

@@ -5,6 +5,7 @@
 
 #include "base/file_io.h"
 #include "base/run_time_error.h"
+#include "commands/checks.h"
 #include "commands/choice_lists.h"
 #include "commands/edit_meta_tags.h"
 #include "commands/edit_page.h"
@@ -46,6 +47,11 @@ std::vector<Control> Build_Control_Table() {
       // "View Body" and "Page Report"
       {"ViewBody_SaveAs", ViewBody_SaveAs_Click},
       {"PageReport_SAVEAS", PageReport_SAVEAS_Click},
+      // "Checks"
+      {"Checks_ShowErrors_CheckBox", Checks_Severity_CheckBox_Click},
+      {"Checks_ShowWarnings_CheckBox", Checks_Severity_CheckBox_Click},
+      {"Checks_ShowNotices_CheckBox", Checks_Severity_CheckBox_Click},
+      {"Checks_Findings_Table", Checks_Findings_Table_DblClick},
       // "Edit Page"
       {"Html_Document_Editor_Find", Html_Document_Editor_Find_Click},
       {"Html_Document_Editor_DOFindNext", Html_Document_Editor_DOFindNext_Click},

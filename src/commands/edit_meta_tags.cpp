@@ -3,6 +3,7 @@
 #include "base/file_io.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "commands/checks.h"
 #include "commands/page_saving.h"
 #include "decode/meta_tag_table.h"
 #include "metatags/tag_list_file.h"
@@ -59,6 +60,7 @@ void Set_MetaTag_TextBox_ToolTip(AppState& s, int16_t i) {
 void MetaTag_TextBox_Change(AppState& s, int16_t i) {
   // Unlike the tooltip routine, an empty field still reads "0 Characters Long" here.
   At(s.Form.MetaTag_TextBox_ToolTip, i) = LengthHoverText(At(s.Form.MetaTag_TextBox, i).size());
+  Show_MetaTag_Length(s, i);
 }
 
 void MetaTagFunctions_ReThreadDocument_Click(AppState& s) {

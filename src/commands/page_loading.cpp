@@ -5,6 +5,7 @@
 #include "base/file_io.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "commands/checks.h"
 #include "commands/choice_lists.h"
 #include "commands/edit_meta_tags.h"
 #include "commands/scan_keywords.h"
@@ -33,6 +34,7 @@ std::optional<int32_t> Read_Page(AppState& s, const std::string& path, int16_t s
     s.CurrentFileName = path;
     int32_t length = document::DO_LOAD_File_TO_CACHE(s, path);
     s.Form.Html_Document_Editor = s.DocumentText;
+    Clear_Page_Checks(s);  // the analysis checks the page; an empty one has none
     SET_PROGRAM_TITLE(s, s.CurrentFileName);
     return length;
   } catch (const file_io::FileError& e) {
@@ -60,7 +62,7 @@ void Replace_Page(AppState& s, const std::string& path, int16_t skipRecentList) 
   s.DocumentLength = *length;
   try {
     if (s.DocumentLength != 0)
-      Meta_Tag_KeyWord_Scan(s, path);
+      Check_And_Scan(s, path);
   } catch (...) {
     Mark_Page_Saved(s);  // what the failed analysis filled is no edit of the user's
     throw;
@@ -180,6 +182,7 @@ void Clear_Document(AppState& s) {
   decode::Clear_MetaTag_Values(s);
   Set_Metatag_Page_TextBoxes(s);
   Set_Drop_Downs(s);
+  Clear_Page_Checks(s);
   SET_PROGRAM_TITLE(s, s.CurrentFileName);
 }
 

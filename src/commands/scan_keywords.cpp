@@ -5,6 +5,7 @@
 
 #include "analysis/analysis_driver.h"
 #include "base/text.h"
+#include "commands/checks.h"
 #include "commands/edit_meta_tags.h"
 #include "commands/page_loading.h"
 #include "commands/setting_boxes.h"
@@ -50,7 +51,7 @@ void Command2_Click(AppState& s) {
 
 void ReScanPage(AppState& s) {
   s.DocumentLength = document::Reload_File_From_Memory_TO_Cache(s);
-  Meta_Tag_KeyWord_Scan(s, s.CurrentFileName);
+  Check_And_Scan(s, s.CurrentFileName);
 }
 
 void Meta_Tag_KeyWord_Scan(AppState& s, const std::string& /*fileName*/) {

@@ -2,6 +2,7 @@
 
 #include "base/run_time_error.h"
 #include "base/text.h"
+#include "commands/checks.h"
 #include "commands/choice_lists.h"
 #include "commands/control_table.h"
 #include "commands/page_loading.h"
@@ -73,6 +74,7 @@ constexpr Step kStartupSteps[] = {
     },
     Set_Drop_Downs,
     [](AppState& s) { Load_Default_Word_Filters(s, s.FilterDictionaryFile); },
+    Init_Checks,
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "base/file_io.h"
 #include "state/analysis_fields.h"
+#include "state/checks_fields.h"
 #include "state/decode_fields.h"
 #include "state/document_fields.h"
 #include "state/form_model.h"
@@ -29,6 +30,7 @@ struct AppState : state::ShellFields,
                   state::KeywordListFields,
                   state::PageReportFields,
                   state::AnalysisResultFields,
+                  state::ChecksFields,
                   state::PageEncoderFields,
                   state::MetaTagPanelFields {
   explicit AppState(state::Platform& p, file_io::FileSystem& f = file_io::RealFileSystem())

@@ -23,12 +23,30 @@ struct MenuEntry {
 
 inline constexpr int kMetaTagFieldCount = 13;
 
+// The tabs from the left, 0 "Scan Keywords" .. 6 "Prefs"; the ones the core brings forward.
+inline constexpr int16_t kChecksTab = 4;
+inline constexpr int16_t kEditPageTab = 5;
+
+// One finding of the page checks, in the words the "Checks" tab shows.
+struct CheckFinding {
+  std::string Severity;  // "error", "warning", "notice"
+  std::string Rule;      // the rule's id
+  std::string Message;   // UTF-8, whatever the page's codec
+  int64_t Line = 0;
+  int64_t Column = 0;
+  int64_t Offset = 0;  // the byte of the page where the tag it is about starts
+  bool operator==(const CheckFinding&) const = default;
+};
+
+// A length label's colour: within the limits, over the width, under the minimum.
+enum class LengthLevel : int16_t { Within, Over, Under };
+
 struct FormModel {
   // The main window.
   std::string Caption;
   double Left = 0, Top = 0, Width = 1024, Height = 720;
   double ScreenWidth = 1024, ScreenHeight = 768;
-  int16_t SelectedTab = 0;  // 0 "Scan Keywords" .. 5 "Prefs"
+  int16_t SelectedTab = 0;
 
   // "Scan Keywords": keyword and word matching options.
   int16_t KeyWords_SortList = 0;
@@ -52,6 +70,9 @@ struct FormModel {
   std::array<std::string, kMetaTagFieldCount> MetaTag_TextBox;  // setter runs the change handler
   std::array<std::string, kMetaTagFieldCount> MetaTag_TextBox_ToolTip;
   std::array<int16_t, kMetaTagFieldCount> MetaTag_Selection_CheckBox{};
+  // "52 chars, 480 px" under the title (0) and the description (1) field.
+  std::array<std::string, 2> MetaTag_Length_Label;
+  std::array<LengthLevel, 2> MetaTag_Length_Level{};
   DropDown PageMetaTags_Rating_DropDown;
   DropDown PageMetaTags_Robots_DropDown;
   DropDown PageMetaTags_Distribution_DropDown;
@@ -67,6 +88,14 @@ struct FormModel {
   // "Page Report".
   std::string ReportTextBox;
   int16_t PageReport_Export_WordCount_CheckBox = 0;
+
+  // "Checks": the findings of the severities ticked, and the count above them.
+  std::vector<CheckFinding> Checks_Findings_Table;
+  int32_t Checks_Findings_Table_Row = -1;  // the row double-clicked, 0-based
+  int16_t Checks_ShowErrors_CheckBox = 1;
+  int16_t Checks_ShowWarnings_CheckBox = 1;
+  int16_t Checks_ShowNotices_CheckBox = 1;
+  std::string Checks_Summary_Label;
 
   // "Edit Page": the page source and its search.
   std::string Html_Document_Editor;

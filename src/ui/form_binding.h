@@ -62,6 +62,11 @@ class FormBinding {
   void WindowTitle(QWidget* w, const std::string* field, const bool* modified);
   void StatusBar(QStatusBar* w, const std::string* field);
   void Tabs(QTabWidget* w, int16_t* field);
+  // A control of its own kind: `pull` copies what the user changed into the Form, `push` shows
+  // what the core changed.
+  void Custom(std::function<void()> pull, std::function<void()> push) {
+    entries_.push_back({std::move(pull), std::move(push)});
+  }
 
   void Pull();
   void Push();

@@ -22,6 +22,7 @@
 #include "commands/startup.h"
 #include "commands/unsaved_edits.h"
 #include "ui/about_box.h"
+#include "ui/checks_tab.h"
 #include "ui/edit_page_tab.h"
 #include "ui/meta_tags_tab.h"
 #include "ui/prefs_tab.h"
@@ -54,6 +55,7 @@ void MainWindow::BuildTabs() {
   tabs_->addTab(new MetaTagsTab(view_, tabs_), QStringLiteral("Edit &Meta Tags"));
   tabs_->addTab(new ViewBodyTab(view_, tabs_), QStringLiteral("&View Body"));
   tabs_->addTab(new PageReportTab(view_, tabs_), QStringLiteral("Page &Report"));
+  tabs_->addTab(new ChecksTab(view_, tabs_), QStringLiteral("&Checks"));
   editPage_ = new EditPageTab(view_, tabs_);
   tabs_->addTab(editPage_, QStringLiteral("&Edit Page"));
   tabs_->addTab(new PrefsTab(view_, tabs_), QStringLiteral("&Prefs"));

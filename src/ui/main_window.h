@@ -1,5 +1,5 @@
 #pragma once
-// The main window: six tabs, the "&File" and "&Help" menus, and the one path by which every
+// The main window: seven tabs, the "&File" and "&Help" menus, and the one path by which every
 // click reaches the core (the user's edits go into the Form, the handler runs guarded, what
 // changed comes back into the widgets).
 

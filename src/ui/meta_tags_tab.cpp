@@ -14,6 +14,7 @@
 
 #include "commands/edit_meta_tags.h"
 #include "state/app_state.h"
+#include "ui/length_label.h"
 
 namespace zentrel::ui {
 
@@ -52,6 +53,8 @@ MetaTagsTab::MetaTagsTab(View& v, QWidget* parent) : QWidget(parent) {
     v.bind.ToolTip(field, &f.MetaTag_TextBox_ToolTip[index]);
     label->setBuddy(field);
     grid->addWidget(field, i, 2);
+    if (i < 2)  // the title and the description
+      grid->addWidget(MakeLengthLabel(v, this, index), i, 3);
   }
   grid->addWidget(MakeCombo(v, this, "PageMetaTags_Rating_DropDown",
                             &f.PageMetaTags_Rating_DropDown, kChoiceWidth),

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
 #include <QMenu>
@@ -43,6 +44,8 @@ std::vector<NamedControl> Controls(const MainWindow& window) {
     add(b, [b] { b->click(); });
   for (QComboBox* c : window.findChildren<QComboBox*>())
     add(c, [c] { emit c->activated(0); });
+  for (QAbstractItemView* t : window.findChildren<QAbstractItemView*>())
+    add(t, [t] { emit t->doubleClicked(t->model()->index(0, 0)); });
   for (const QMenu* menu : window.menuBar()->findChildren<QMenu*>()) {
     for (QAction* a : menu->actions()) {
       if (!a->isSeparator())

@@ -109,7 +109,7 @@ TEST_F(MainWindowTest, EveryControlIsThereWithItsCaption) {
   for (int i = 0; i < tabs->count(); ++i)
     tabTexts << tabs->tabText(i).remove(u'&');
   EXPECT_EQ(tabTexts, (QStringList{"Scan Keywords", "Edit Meta Tags", "View Body", "Page Report",
-                                   "Edit Page", "Prefs"}));
+                                   "Checks", "Edit Page", "Prefs"}));
 
   const std::pair<const char*, const char*> captions[] = {
       {"Command1", "Load Page"},
