@@ -216,8 +216,10 @@ int Run_Page(Session& session, const Options& o, const std::string& page, std::o
   }
   if (o.command == "report")
     out << s.Form.ReportTextBox;
-  if (o.command == "analyse")
+  if (o.command == "analyse") {
+    session.Run(commands::ViewBody_Show);
     Write_Analysis_Json(out, s, page, error);
+  }
   return error ? kPageFailed : kOk;
 }
 

@@ -29,6 +29,7 @@ struct AppState : state::ShellFields,
                   state::KeywordListFields,
                   state::PageReportFields,
                   state::AnalysisResultFields,
+                  state::BodyViewFields,
                   state::PageEncoderFields,
                   state::MetaTagPanelFields {
   explicit AppState(state::Platform& p, file_io::FileSystem& f = file_io::RealFileSystem())

@@ -18,6 +18,7 @@
 #include "commands/control_table.h"
 #include "commands/page_loading.h"
 #include "commands/startup.h"
+#include "commands/view_body_report.h"
 #include "ui/about_box.h"
 #include "ui/edit_page_tab.h"
 #include "ui/meta_tags_tab.h"
@@ -54,6 +55,7 @@ void MainWindow::BuildTabs() {
   tabs_->addTab(editPage_, QStringLiteral("Edit Page"));
   tabs_->addTab(new PrefsTab(view_, tabs_), QStringLiteral("Prefs"));
   bind_.Tabs(tabs_, &s_.Form.SelectedTab);
+  connect(tabs_, &QTabWidget::currentChanged, this, [this] { Sync({}); });
   bind_.WindowTitle(this, &s_.Form.Caption);
   setCentralWidget(tabs_);
 }
@@ -133,6 +135,7 @@ void MainWindow::Sync(const std::function<void(AppState&)>& command) {
   commands::Run_Guarded(s_, [this](AppState&) { bind_.Pull(); });
   if (command)
     commands::Run_Guarded(s_, command);
+  commands::Run_Guarded(s_, commands::Show_Selected_Tab);
   bind_.Push();
   running_ = false;
   if (std::exchange(s_.Form.AboutBoxRequested, false))
