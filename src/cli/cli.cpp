@@ -173,10 +173,14 @@ class Session {
   AppState& state() { return state_; }
 
   // Loads as "Load Page" does (recent list untouched); false when the file cannot be read.
-  bool Load(const std::string& page) {
+  // Only a rebuild reads the page back from the source editor: for the other commands its
+  // copy of the page is let go at once.
+  bool Load(const std::string& page, bool keepEditor) {
     page_ = page;
     int before = platform_.messagesShown();
     state_.DocumentLength = commands::Load_File_To_Cache(state_, page, 1);
+    if (!keepEditor)
+      std::string().swap(state_.Form.Html_Document_Editor);
     return platform_.messagesShown() == before;
   }
 
@@ -197,7 +201,7 @@ class Session {
 };
 
 int Run_Page(Session& session, const Options& o, const std::string& page, std::ostream& out) {
-  if (!session.Load(page))
+  if (!session.Load(page, false))
     return kUsage;
   if (o.command == "validate") {
     std::string problem;
@@ -237,7 +241,7 @@ int Run_Rebuild(const Options& o, std::ostream& err, const std::string& folder) 
     }
     fields.emplace_back(i, value);
   }
-  if (!session.Load(page))
+  if (!session.Load(page, true))
     return kUsage;
   bool written = false;
   if (session.Run([&](AppState& s) {

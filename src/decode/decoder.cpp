@@ -42,9 +42,13 @@ void AppendWordText(AppState& s, std::string_view piece) {
     const auto n = static_cast<size_t>(std::min(static_cast<int64_t>(piece.size()), room - at));
     const auto from = static_cast<size_t>(at);
     std::string& text = s.StrippedText;
-    if (text.size() < from)
-      text.append(from - text.size(), ' ');
-    text.replace(from, std::min(n, text.size() - from), piece.data(), n);
+    if (text.size() == from) {
+      text.append(piece.data(), n);
+    } else {
+      if (text.size() < from)
+        text.append(from - text.size(), ' ');
+      text.replace(from, std::min(n, text.size() - from), piece.data(), n);
+    }
   }
   s.StrippedTextPosition =
       ToInt32(static_cast<int64_t>(s.StrippedTextPosition) + static_cast<int64_t>(piece.size()));

@@ -76,8 +76,17 @@ size_t NextWordSlot(AppState& s) {
   return at;
 }
 
-// Stores a word of the list's spelling at index count.
+// Stores a word of the list's spelling at index count. Below the capacity, with the list's
+// end at the count, it is stored at once: half a million words pass here.
 void AppendToWordList(AppState& s, uint32_t spelling) {
+  const int32_t count = s.DocumentWordCount;
+  if (count >= 0 && count < s.DocumentWordsCapacity &&
+      static_cast<size_t>(count) < s.DocumentWords.size() &&
+      static_cast<size_t>(count) == s.DocumentWords.Stored()) {
+    s.DocumentWords.AppendSpelling(spelling);
+    s.DocumentWordCount = count + 1;
+    return;
+  }
   NextWordSlot(s);
   s.DocumentWords.AppendSpelling(spelling);
   s.DocumentWordCount = ToInt32(int64_t{s.DocumentWordCount} + 1);
