@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <climits>
 #include <cstring>
 #include <string_view>
@@ -76,20 +77,25 @@ size_t NextWordSlot(AppState& s) {
   return at;
 }
 
-// Stores a word of the list's spelling at index count. Below the capacity, with the list's
-// end at the count, it is stored at once: half a million words pass here.
-void AppendToWordList(AppState& s, uint32_t spelling) {
-  const int32_t count = s.DocumentWordCount;
-  if (count >= 0 && count < s.DocumentWordsCapacity &&
-      static_cast<size_t>(count) < s.DocumentWords.size() &&
-      static_cast<size_t>(count) == s.DocumentWords.Stored()) {
-    s.DocumentWords.AppendSpelling(spelling);
-    s.DocumentWordCount = count + 1;
-    return;
-  }
+// Stores a word of the list's spelling at index count, growing the list when it is full.
+void AppendToWordListGrowing(AppState& s, uint32_t spelling) {
   NextWordSlot(s);
   s.DocumentWords.AppendSpelling(spelling);
   s.DocumentWordCount = ToInt32(int64_t{s.DocumentWordCount} + 1);
+}
+
+// The same, stored at once below the capacity with the list's end at the count: half a
+// million words pass here.
+inline void AppendToWordList(AppState& s, uint32_t spelling) {
+  const int32_t count = s.DocumentWordCount;
+  if (count >= 0 && count < s.DocumentWordsCapacity &&
+      static_cast<size_t>(count) == s.DocumentWords.Stored() &&
+      static_cast<size_t>(count) < s.DocumentWords.size()) {
+    s.DocumentWords.AppendSpelling(spelling);
+    s.DocumentWordCount = count + 1;
+  } else {
+    AppendToWordListGrowing(s, spelling);
+  }
 }
 
 // Stores the word (lower-cased first when `lower`) at index count.
@@ -197,13 +203,27 @@ class SpellingTable {
   static constexpr size_t kStartSlots = 4096;
   static constexpr size_t kHead = 16;
 
-  static uint64_t Hash(std::string_view w, uint64_t& head0, uint64_t& head1) {
-    char head[kHead] = {};
+  // The word's first 16 bytes, zero-padded: read in two loads where the text goes on for
+  // 16 bytes, not byte by byte.
+  void Head(std::string_view w, uint64_t& head0, uint64_t& head1) const {
     const size_t n = w.size() < kHead ? w.size() : kHead;
+    if (std::endian::native == std::endian::little &&
+        static_cast<size_t>(text_.data() + text_.size() - w.data()) >= kHead) {
+      std::memcpy(&head0, w.data(), 8);
+      std::memcpy(&head1, w.data() + 8, 8);
+      head0 &= n >= 8 ? ~uint64_t{0} : (uint64_t{1} << (8 * n)) - 1;
+      head1 &= n >= kHead ? ~uint64_t{0} : n <= 8 ? 0 : (uint64_t{1} << (8 * (n - 8))) - 1;
+      return;
+    }
+    char head[kHead] = {};
     for (size_t i = 0; i < n; ++i)
       head[i] = w[i];
     std::memcpy(&head0, head, 8);
     std::memcpy(&head1, head + 8, 8);
+  }
+
+  uint64_t Hash(std::string_view w, uint64_t& head0, uint64_t& head1) const {
+    Head(w, head0, head1);
     uint64_t hash = (head0 * 0xFF51AFD7ED558CCDULL) ^ (head1 * 0xC4CEB9FE1A85EC53ULL) ^ w.size();
     for (size_t i = kHead; i < w.size(); ++i)
       hash = (hash ^ static_cast<unsigned char>(w[i])) * 0x100000001B3ULL;
