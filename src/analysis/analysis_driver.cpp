@@ -40,6 +40,9 @@ void ResetForScan(AppState& s) {
   s.TitleText.clear();
   s.TitleStart = 0;
   s.TitleEnd = 0;
+  // A "View Body" not joined yet keeps the words it shows, should this analysis end early.
+  if (s.BodyViewPending && !s.BodyViewWords)
+    s.BodyViewWords = std::move(s.DocumentWords);
   words::Init_Document_Word_List(s);
   words::Build_Filter_Words_Text(s);
 }
@@ -146,8 +149,8 @@ void ReportWordCount(AppState& s) {
   ReportPadded(s, lines);
 }
 
-// "View Body" shows the words counted, unless it is to show the raw body, which the decoder
-// has then left in StrippedText (it decodes no empty page).
+// "View Body" shows the words counted (joined when shown), unless it is to show the raw body,
+// which the decoder has then left in StrippedText (it decodes no empty page).
 void RawBodyView(AppState& s) {
   if (s.ViewBodyShowRaw == 1 && s.DocumentLength >= 1)
     s.BodyViewText = s.StrippedText;
@@ -159,7 +162,7 @@ void WordsBodyView(AppState& s) {
   const int32_t count = s.DocumentWordCount;
   if (count > 0)
     CheckIndex(count - 1, 0, static_cast<int64_t>(s.DocumentWords.size()) - 1);
-  s.BodyViewText = s.DocumentWords.Join(static_cast<size_t>(std::max(count, 0)), ", ");
+  s.BodyViewWordsDue = true;
 }
 
 }  // namespace

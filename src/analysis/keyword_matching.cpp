@@ -200,11 +200,18 @@ void ScanWords(AppState& s) {
       phrases[i].push_back(ids.Add(word));
   }
   Pattern_Automaton automaton(phrases, ids.Count());
+  // A page repeats its spellings: each is looked up once.
+  const state::WordList& list = s.DocumentWords;
+  std::vector<int32_t> spellingIds(list.Spellings());
+  for (uint32_t spelling = 0; spelling < spellingIds.size(); ++spelling)
+    spellingIds[spelling] = ids.Find(list.Spelling(spelling));
+  const int32_t emptyId = ids.Find({});  // the slots past the stored words
   int32_t state = Pattern_Automaton::kRoot;
   for (int32_t k = 0; k < count; ++k) {
     if ((k & kWordsBetweenEvents) == kWordsBetweenEvents)
       s.platform->DoEvents();
-    const int32_t id = ids.Find(s.DocumentWords[static_cast<size_t>(k)]);
+    const auto at = static_cast<size_t>(k);
+    const int32_t id = at < list.Stored() ? spellingIds[list.SpellingOf(at)] : emptyId;
     state = id < 0 ? Pattern_Automaton::kRoot : automaton.Next(state, static_cast<uint32_t>(id));
     automaton.Count(state);
   }

@@ -57,6 +57,11 @@ void Pattern_Automaton::Link_Suffixes(uint32_t alphabet) {
         dense_[node * alphabet + symbol] = c;
     }
   }
+  counted_.assign(nodes, 0);
+  for (const int32_t end : ends_)
+    counted_[static_cast<size_t>(end)] = 1;
+  for (size_t node = 1; node < nodes; ++node)
+    counted_[node] |= counted_[static_cast<size_t>(suffix_[node])];
   visits_.assign(nodes, 0);
 }
 

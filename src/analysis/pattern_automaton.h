@@ -38,8 +38,13 @@ class Pattern_Automaton {
     }
     return dense_[static_cast<size_t>(state) * alphabet_ + symbol];
   }
-  // Records that the text has one more position ending in `state`.
-  void Count(int32_t state) { ++visits_[static_cast<size_t>(state)]; }
+  // Records that the text has one more position ending in `state`. A state that ends no
+  // pattern, itself or through its suffixes, adds to no total and is not counted: most text
+  // never reaches a state that does.
+  void Count(int32_t state) {
+    if (counted_[static_cast<size_t>(state)])
+      ++visits_[static_cast<size_t>(state)];
+  }
   // Per state, how many counted positions end with that state's pattern prefix; once, after
   // the last Count.
   const std::vector<int64_t>& Occurrences();
@@ -102,7 +107,8 @@ class Pattern_Automaton {
   size_t denseNodes_ = 0;
   uint32_t alphabet_ = 0;
   std::vector<int32_t> dense_;
-  std::vector<int32_t> suffix_;  // the longest proper suffix that is also a node
+  std::vector<int32_t> suffix_;   // the longest proper suffix that is also a node
+  std::vector<uint8_t> counted_;  // 1: a pattern ends here or at one of the suffixes
   std::vector<int64_t> visits_;
 };
 

@@ -193,10 +193,14 @@ class Session {
   CliPlatform& platform() { return platform_; }
 
   // Loads as "Load Page" does (recent list untouched); false when the file cannot be read.
-  bool Load(const std::string& page) {
+  // Only a rebuild reads the page back from the source editor: for the other commands its
+  // copy of the page is let go at once.
+  bool Load(const std::string& page, bool keepEditor) {
     page_ = page;
     int before = platform_.messagesShown();
     state_.DocumentLength = commands::Load_File_To_Cache(state_, page, 1);
+    if (!keepEditor)
+      std::string().swap(state_.Form.Html_Document_Editor);
     return platform_.messagesShown() == before;
   }
 
@@ -217,7 +221,7 @@ class Session {
 };
 
 int Run_Page(Session& session, const Options& o, const std::string& page, std::ostream& out) {
-  if (!session.Load(page))
+  if (!session.Load(page, false))
     return kUsage;
   if (o.command == "validate") {
     std::string problem;
@@ -236,8 +240,10 @@ int Run_Page(Session& session, const Options& o, const std::string& page, std::o
   }
   if (o.command == "report")
     out << s.Form.ReportTextBox;
-  if (o.command == "analyse")
+  if (o.command == "analyse") {
+    session.Run(commands::ViewBody_Show);
     Write_Analysis_Json(out, s, page, error);
+  }
   return error ? kPageFailed : kOk;
 }
 
@@ -283,7 +289,7 @@ int Fill_And_Save(const Options& o, const FieldValues& fields, const std::string
   if (!session.Started())
     return kPageFailed;
   session.platform().ShowChangesOn(changes);
-  if (!session.Load(page))
+  if (!session.Load(page, true))
     return kUsage;
   bool written = false;
   if (session.Run([&](AppState& s) {

@@ -11,6 +11,7 @@
 #include "commands/scan_keywords.h"
 #include "commands/startup.h"
 #include "commands/unsaved_edits.h"
+#include "commands/view_body_report.h"
 #include "decode/meta_tag_table.h"
 #include "document/document_cache.h"
 #include "state/app_state.h"
@@ -173,6 +174,7 @@ void Clear_Document(AppState& s) {
   s.DocumentBytes.assign(1, 0);
   s.Form.Html_Document_Editor.clear();
   s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox.clear();
+  ViewBody_Forget_Words(s);
   s.Form.ScanKeyWords_DocumentWordCount_TextBox.clear();
   s.Form.ScanKeyWords_KeyWordMatches_TextBox.clear();
   s.Form.ScanKeyWords_KeyWordDensity_TextBox.clear();

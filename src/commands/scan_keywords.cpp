@@ -9,6 +9,7 @@
 #include "commands/edit_meta_tags.h"
 #include "commands/page_loading.h"
 #include "commands/setting_boxes.h"
+#include "commands/view_body_report.h"
 #include "commands/word_filters.h"
 #include "document/document_cache.h"
 #include "state/app_state.h"
@@ -27,7 +28,15 @@ void Show(std::optional<std::string>& text, std::string& box) {
 void Show_Analysis(AppState& s) {
   state::FormModel& f = s.Form;
   Show(s.WordCountText, f.ScanKeyWords_DocumentWordCount_TextBox);
-  Show(s.BodyViewText, f.ScanKeyWords_StrippedHTMLDocument_TextBox);
+  if (s.BodyViewText) {
+    ViewBody_Forget_Words(s);
+    Show(s.BodyViewText, f.ScanKeyWords_StrippedHTMLDocument_TextBox);
+  } else if (std::exchange(s.BodyViewWordsDue, false)) {
+    ViewBody_Forget_Words(s);
+    f.ScanKeyWords_StrippedHTMLDocument_TextBox = std::string();
+    s.BodyViewPending = true;
+    s.BodyViewWordCount = s.DocumentWordCount;
+  }
   Show(s.MatchesText, f.ScanKeyWords_KeyWordMatches_TextBox);
   Show(s.UniqueWordsLabel, f.Body_Word_Count_Label);
   Show(s.WordsLabel, f.Body_Word_Count_label2);

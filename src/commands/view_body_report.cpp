@@ -1,5 +1,7 @@
 #include "commands/view_body_report.h"
 
+#include <algorithm>
+
 #include "base/file_io.h"
 #include "commands/page_saving.h"
 #include "commands/setting_boxes.h"
@@ -8,6 +10,8 @@
 namespace zentrel::commands {
 
 namespace {
+
+constexpr int16_t kViewBodyTab = 2;  // SelectedTab of "View Body"
 
 // Writes a text area's whole text, as it stands, to a file the user picks. A failed write is
 // shown; the atomic writer has left any old file of that name intact.
@@ -35,6 +39,7 @@ void Do_Save_REPORT(AppState& s) {
 
 // No test for an empty text: an empty body is saved as an empty file.
 void ViewBody_SaveAs_Click(AppState& s) {
+  ViewBody_Show(s);
   Save_Text_As(s, s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox);
 }
 
@@ -44,6 +49,25 @@ void PageReport_Export_WordCount_CheckBox_Click(AppState& s) {
 
 void ViewBody_ShowRAWBODY_CHeckBox_Click(AppState& s) {
   Setting_Box_Click(s, &state::FormModel::ViewBody_ShowRAWBODY_CHeckBox);
+}
+
+void ViewBody_Show(AppState& s) {
+  if (!s.BodyViewPending)
+    return;
+  const state::WordList& words = s.BodyViewWords ? *s.BodyViewWords : s.DocumentWords;
+  s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox =
+      words.Join(static_cast<size_t>(std::max(s.BodyViewWordCount, 0)), ", ");
+  ViewBody_Forget_Words(s);
+}
+
+void ViewBody_Forget_Words(AppState& s) {
+  s.BodyViewPending = false;
+  s.BodyViewWords.reset();
+}
+
+void Show_Selected_Tab(AppState& s) {
+  if (s.Form.SelectedTab == kViewBodyTab)
+    ViewBody_Show(s);
 }
 
 }  // namespace zentrel::commands

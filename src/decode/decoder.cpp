@@ -26,52 +26,83 @@ constexpr int32_t kTitleOpenLength = 7;   // "<title>"
 constexpr int32_t kTitleCloseLength = 9;  // "</title>" and one more: the range is inclusive
 constexpr int32_t kAltValueOffset = 5;    // "alt=" and the opening quote
 
-// Writes a piece of word text over the padding; the string never grows, so a piece that
-// would run past its end is cut there.
+// The word text's length during a decode: the page and the padding.
+int64_t WordTextRoom(const AppState& s) {
+  return static_cast<int64_t>(s.DocumentLength) + kWordTextPadding;
+}
+
+// Writes a piece of word text at StrippedTextPosition. The text never grows past its room, so
+// a piece that would run past that end is cut there; the position counts the piece whole.
+// Pieces follow one another, so the text is appended to; the room not reached yet is the
+// padding, which only the finish writes.
 void AppendWordText(AppState& s, std::string_view piece) {
   const int64_t at = static_cast<int64_t>(s.StrippedTextPosition) - 1;
-  const auto size = static_cast<int64_t>(s.StrippedText.size());
-  if (at >= 0 && at < size) {
-    const auto n = std::min(static_cast<int64_t>(piece.size()), size - at);
-    std::memcpy(s.StrippedText.data() + at, piece.data(), static_cast<size_t>(n));
+  const int64_t room = WordTextRoom(s);
+  if (at >= 0 && at < room) {
+    const auto n = static_cast<size_t>(std::min(static_cast<int64_t>(piece.size()), room - at));
+    const auto from = static_cast<size_t>(at);
+    std::string& text = s.StrippedText;
+    if (text.size() == from) {
+      text.append(piece.data(), n);
+    } else {
+      if (text.size() < from)
+        text.append(from - text.size(), ' ');
+      text.replace(from, std::min(n, text.size() - from), piece.data(), n);
+    }
   }
   s.StrippedTextPosition =
       ToInt32(static_cast<int64_t>(s.StrippedTextPosition) + static_cast<int64_t>(piece.size()));
 }
 
-// ReplaceAll for a replacement no longer than what it replaces, done inside the string so a
-// large page is not copied once per entity.
-void ReplaceInPlace(std::string& text, std::string_view from, std::string_view to) {
-  size_t read = text.find(from);
-  if (read == std::string::npos)
-    return;
-  size_t write = read;
-  while (read != std::string::npos) {
-    for (const char c : to)
-      text[write++] = c;
-    read += from.size();
-    const size_t next = text.find(from, read);
-    const size_t stop = next == std::string::npos ? text.size() : next;
-    std::copy(text.begin() + static_cast<std::ptrdiff_t>(read),
-              text.begin() + static_cast<std::ptrdiff_t>(stop),
-              text.begin() + static_cast<std::ptrdiff_t>(write));
-    write += stop - read;
-    read = next;
+constexpr std::string_view kEntities[] = {"&nbsp;", "&quot;", "&amp;", "&gt;", "&lt;"};
+constexpr char kEntityChars[] = {' ', '"', '&', '>', '<'};
+constexpr size_t kAmp = 2;  // "&amp;": its "&" still starts a "&gt;" or "&lt;"
+
+// The entity at the start of `rest`, as an index of kEntities, or -1.
+int EntityAt(std::string_view rest) {
+  for (size_t e = 0; e < std::size(kEntities); ++e) {
+    if (rest.substr(0, kEntities[e].size()) == kEntities[e])
+      return static_cast<int>(e);
   }
-  text.resize(write);
+  return -1;
 }
 
-// The same result as replacing "  " by " " until none is left.
-void FoldSpaces(std::string& text) {
-  // A space is dropped when the last kept character is a space, which is the case exactly
-  // when the character read before it was one. Written without branches: a page's text is
-  // megabytes of short words.
+// In one pass, the same text as replacing, one after the other and each everywhere, "&nbsp;",
+// "&quot;", "&amp;", "&gt;" and "&lt;" by their characters, then CR LF by nothing, then "  "
+// by " " until none is left. The replacements cannot make a match for an earlier one, and only
+// the "&" of "&amp;" can start one for a later one ("&amp;gt;" gives ">"); they never make a
+// CR or LF, so the line breaks removed are exactly the CR LF pairs of the text read from left
+// to right.
+void FinishInOnePass(std::string& text) {
   char* data = text.data();
-  const size_t size = text.size();  // held here: the writes through data may alias it
+  const size_t size = text.size();
   size_t write = 0;
   char previous = '\0';
-  for (size_t read = 0; read < size; ++read) {
-    const char c = data[read];
+  for (size_t read = 0; read < size;) {
+    char c = data[read];
+    size_t used = 1;
+    if (c == '&') {
+      const std::string_view rest(data + read, size - read);
+      const int e = EntityAt(rest);
+      if (e >= 0) {
+        c = kEntityChars[e];
+        used = kEntities[e].size();
+        // The "&" that "&amp;" leaves, with the text after it, may make a later entity.
+        for (size_t then = kAmp + 1; e == static_cast<int>(kAmp) && then < std::size(kEntities);
+             ++then) {
+          if (rest.substr(used, kEntities[then].size() - 1) == kEntities[then].substr(1)) {
+            c = kEntityChars[then];
+            used += kEntities[then].size() - 1;
+            break;
+          }
+        }
+      }
+    } else if (c == '\r' && read + 1 < size && data[read + 1] == '\n') {
+      read += 2;
+      continue;
+    }
+    read += used;
+    // A space is dropped when the character kept before it is a space.
     data[write] = c;
     write += static_cast<size_t>(c != ' ' || previous != ' ');
     previous = c;
@@ -82,19 +113,11 @@ void FoldSpaces(std::string& text) {
 void FinishWordText(AppState& s) {
   // Keeps one trailing space of the padding.
   const auto keep = static_cast<size_t>(std::max(s.StrippedTextPosition, 0));
-  if (keep < s.StrippedText.size())
-    s.StrippedText.resize(keep);
+  s.StrippedText.resize(static_cast<size_t>(std::min<int64_t>(keep, WordTextRoom(s))), ' ');
   s.platform->DoEvents();
-  ReplaceInPlace(s.StrippedText, "&nbsp;", " ");
-  ReplaceInPlace(s.StrippedText, "&quot;", "\"");
-  ReplaceInPlace(s.StrippedText, "&amp;", "&");
-  ReplaceInPlace(s.StrippedText, "&gt;", ">");
-  ReplaceInPlace(s.StrippedText, "&lt;", "<");
-  // A line break joins the words on either side of it.
-  ReplaceInPlace(s.StrippedText, "\r\n", "");
-  s.platform->DoEvents();
-  FoldSpaces(s.StrippedText);
-  s.platform->DoEvents();
+  FinishInOnePass(s.StrippedText);
+  s.platform->DoEvents();  // where the entities and line breaks were done
+  s.platform->DoEvents();  // where the spaces were folded
 }
 
 // An image's ALT text, taken from the second character after "alt=" up to the next double
@@ -192,7 +215,10 @@ void HTML_Decode_Document(AppState& s) {
     return;
   s.ScanPosition = 0;
   words::Init_Get_word_string_Chr_table(s);
-  s.StrippedText.assign(static_cast<size_t>(s.DocumentLength) + kWordTextPadding, ' ');
+  // Room for the page and the padding, written only where text goes: the pages of memory
+  // that no text reaches are never touched.
+  s.StrippedText = std::string();
+  s.StrippedText.reserve(static_cast<size_t>(s.DocumentLength) + kWordTextPadding);
   s.StrippedTextPosition = 1;
   s.ScanEndPosition = s.DocumentLength - 1;
   Reset_HTML_BODY_AND_HEADER_VALUES(s);

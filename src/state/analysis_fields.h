@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "state/word_list.h"
+
 namespace zentrel::state {
 
 struct KeywordListFields {
@@ -39,13 +41,24 @@ struct PageReportFields {
 // ran it shows the ones set (and clears them), and the boxes stand as far as they were filled.
 struct AnalysisResultFields {
   std::optional<std::string> WordCountText;     // "Body Word Count"
-  std::optional<std::string> BodyViewText;      // "View Body"
+  std::optional<std::string> BodyViewText;      // "View Body", the raw body
+  bool BodyViewWordsDue = false;                // "View Body", the document's words
   std::optional<std::string> MatchesText;       // "KeyWord Matches"
   std::optional<std::string> UniqueWordsLabel;  // "Unique Word Count= ..."
   std::optional<std::string> WordsLabel;        // "Word Count= ..."
   std::optional<std::string> DensityText;       // "KeyWord Density"
   std::optional<std::string> ReportText;        // "Page Report"
   bool ResultFieldsDue = false;  // the META fields and the filter list are to be shown
+};
+
+// "View Body" when it shows the document's words: the words joined are megabytes for a long
+// page, so they are joined only when the box is shown or its text is asked for.
+struct BodyViewFields {
+  bool BodyViewPending = false;   // the box's text is still to be joined
+  int32_t BodyViewWordCount = 0;  // from this many words
+  // The words, once a later analysis has begun a new DocumentWords; until then they are
+  // DocumentWords itself.
+  std::optional<WordList> BodyViewWords;
 };
 
 }  // namespace zentrel::state

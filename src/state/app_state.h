@@ -31,6 +31,7 @@ struct AppState : state::ShellFields,
                   state::PageReportFields,
                   state::AnalysisResultFields,
                   state::ChecksFields,
+                  state::BodyViewFields,
                   state::PageEncoderFields,
                   state::MetaTagPanelFields {
   explicit AppState(state::Platform& p, file_io::FileSystem& f = file_io::RealFileSystem())

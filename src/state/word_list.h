@@ -11,9 +11,10 @@
 
 namespace zentrel::state {
 
-// A table of words indexed from 0, stored end to end in one buffer: a page of half a million
-// words costs its characters and one offset each, not a string object per word. Words are
-// only ever appended; the slots after the last stored word read as empty.
+// A table of words indexed from 0. Each word is a number naming one of the list's spellings,
+// which are stored end to end in one buffer: a page of half a million words, which repeats a
+// few thousand spellings, costs one number a word and each spelling's characters once. Words
+// are only ever appended; the slots after the last stored word read as empty.
 class WordList {
  public:
   // Reads the slots in order, as string views.
@@ -70,26 +71,41 @@ class WordList {
   void Resize(size_t count) { slots_ = count; }
   // Forgets the words from index `words` on.
   void Truncate(size_t words);
-  // Room for this many more words and characters without moving the buffers.
-  void ReserveMore(size_t words, size_t chars);
+  // Room for this many more words without moving the buffer.
+  void ReserveMore(size_t words) { ids_.reserve(ids_.size() + words); }
   size_t size() const { return slots_; }
-  size_t Stored() const { return ends_.size(); }
+  size_t Stored() const { return ids_.size(); }
   std::string_view operator[](size_t i) const {
-    if (i >= ends_.size())
-      return {};
-    const size_t begin = i == 0 ? 0 : ends_[i - 1];
-    return std::string_view(chars_).substr(begin, ends_[i] - begin);
+    return i < ids_.size() ? Spelling(ids_[i]) : std::string_view();
   }
   // Words 0..count-1 joined by the separator.
   std::string Join(size_t count, std::string_view separator) const;
 
   enum class Fold { None, Lower };  // ASCII case folding on the way in
   // Stores the word at index Stored(), adding a slot when there is none.
-  void Append(std::string_view word, Fold fold = Fold::None);
+  void Append(std::string_view word, Fold fold = Fold::None) {
+    AppendSpelling(AddSpelling(word, fold));
+  }
+  // A new spelling (not compared with the others), for words to be appended by its number.
+  uint32_t AddSpelling(std::string_view word, Fold fold = Fold::None);
+  // Stores the word of that spelling at index Stored(), adding a slot when there is none.
+  void AppendSpelling(uint32_t spelling) {
+    ids_.push_back(spelling);
+    if (ids_.size() > slots_)
+      slots_ = ids_.size();
+  }
+  size_t Spellings() const { return spellingEnds_.size(); }
+  std::string_view Spelling(uint32_t spelling) const {
+    const uint32_t begin = spelling == 0 ? 0 : spellingEnds_[spelling - 1];
+    return std::string_view(chars_).substr(begin, spellingEnds_[spelling] - begin);
+  }
+  // The spelling of stored word i (i < Stored()).
+  uint32_t SpellingOf(size_t i) const { return ids_[i]; }
 
  private:
-  std::string chars_;
-  std::vector<uint32_t> ends_;  // ends_[i]: offset one past word i in chars_
+  std::string chars_;                   // the spellings end to end
+  std::vector<uint32_t> spellingEnds_;  // offset one past each spelling in chars_
+  std::vector<uint32_t> ids_;           // the spelling of each stored word
   size_t slots_ = 0;
 };
 

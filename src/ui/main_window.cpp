@@ -21,6 +21,7 @@
 #include "commands/page_loading.h"
 #include "commands/startup.h"
 #include "commands/unsaved_edits.h"
+#include "commands/view_body_report.h"
 #include "ui/about_box.h"
 #include "ui/checks_tab.h"
 #include "ui/edit_page_tab.h"
@@ -60,6 +61,7 @@ void MainWindow::BuildTabs() {
   tabs_->addTab(editPage_, QStringLiteral("&Edit Page"));
   tabs_->addTab(new PrefsTab(view_, tabs_), QStringLiteral("&Prefs"));
   bind_.Tabs(tabs_, &s_.Form.SelectedTab);
+  connect(tabs_, &QTabWidget::currentChanged, this, [this] { Sync({}); });
   bind_.WindowTitle(this, &s_.Form.Caption, &s_.Form.PageModified);
   bind_.StatusBar(statusBar(), &s_.Form.StatusBar_Text);
   setCentralWidget(tabs_);
@@ -150,6 +152,7 @@ void MainWindow::Sync(const std::function<void(AppState&)>& command) {
   if (command)
     commands::Run_Guarded(s_, command);
   commands::Update_Modified_Flag(s_);
+  commands::Run_Guarded(s_, commands::Show_Selected_Tab);
   bind_.Push();
   running_ = false;
   if (std::exchange(s_.Form.AboutBoxRequested, false))

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <climits>
 #include <cstring>
 #include <string_view>
@@ -60,17 +61,46 @@ void ResizeDictionary(AppState& s) {
   s.UniqueWordCounts.resize(size, 0);
 }
 
-// Stores the word (lower-cased first when `lower`) at index count.
-void AppendToWordList(AppState& s, std::string_view word, bool lower) {
+// Makes room for the word at index count; the list is appended to, and a count set back or
+// forth by hand moves the list's end there first.
+size_t NextWordSlot(AppState& s) {
   if (s.DocumentWordCount == s.DocumentWordsCapacity ||
       static_cast<size_t>(s.DocumentWordCount) >= s.DocumentWords.size())
     GrowDocumentWords(s);
   const auto at = static_cast<size_t>(s.DocumentWordCount);
   CheckIndex(s.DocumentWordCount, 0, static_cast<int64_t>(s.DocumentWords.size()) - 1);
-  // The list is appended to; a count set back or forth by hand moves the end there.
-  s.DocumentWords.Truncate(at);
-  while (s.DocumentWords.Stored() < at)
-    s.DocumentWords.Append({});
+  if (s.DocumentWords.Stored() != at) {
+    s.DocumentWords.Truncate(at);
+    while (s.DocumentWords.Stored() < at)
+      s.DocumentWords.Append({});
+  }
+  return at;
+}
+
+// Stores a word of the list's spelling at index count, growing the list when it is full.
+void AppendToWordListGrowing(AppState& s, uint32_t spelling) {
+  NextWordSlot(s);
+  s.DocumentWords.AppendSpelling(spelling);
+  s.DocumentWordCount = ToInt32(int64_t{s.DocumentWordCount} + 1);
+}
+
+// The same, stored at once below the capacity with the list's end at the count: half a
+// million words pass here.
+inline void AppendToWordList(AppState& s, uint32_t spelling) {
+  const int32_t count = s.DocumentWordCount;
+  if (count >= 0 && count < s.DocumentWordsCapacity &&
+      static_cast<size_t>(count) == s.DocumentWords.Stored() &&
+      static_cast<size_t>(count) < s.DocumentWords.size()) {
+    s.DocumentWords.AppendSpelling(spelling);
+    s.DocumentWordCount = count + 1;
+  } else {
+    AppendToWordListGrowing(s, spelling);
+  }
+}
+
+// Stores the word (lower-cased first when `lower`) at index count.
+void AppendToWordList(AppState& s, std::string_view word, bool lower) {
+  NextWordSlot(s);
   s.DocumentWords.Append(word, lower ? state::WordList::Fold::Lower : state::WordList::Fold::None);
   s.DocumentWordCount = ToInt32(int64_t{s.DocumentWordCount} + 1);
 }
@@ -136,6 +166,7 @@ class SpellingTable {
     uint32_t offset = 0;            // where the spelling first stood in the text
     uint32_t size = 0;
     int32_t outcome = 0;
+    uint32_t spelling = 0;  // the word list's spelling, for a listed word
   };
 
   explicit SpellingTable(std::string_view text) : text_(text), slots_(kStartSlots, 0) {
@@ -153,7 +184,7 @@ class SpellingTable {
       const uint32_t slot = slots_[i];
       if (slot == 0) {
         const auto offset = static_cast<uint32_t>(w.data() - text_.data());
-        entries_.push_back({head0, head1, offset, static_cast<uint32_t>(w.size()), 0});
+        entries_.push_back({head0, head1, offset, static_cast<uint32_t>(w.size()), 0, 0});
         slots_[i] = static_cast<uint32_t>(entries_.size());
         fresh = true;
         return entries_.back();
@@ -172,13 +203,27 @@ class SpellingTable {
   static constexpr size_t kStartSlots = 4096;
   static constexpr size_t kHead = 16;
 
-  static uint64_t Hash(std::string_view w, uint64_t& head0, uint64_t& head1) {
-    char head[kHead] = {};
+  // The word's first 16 bytes, zero-padded: read in two loads where the text goes on for
+  // 16 bytes, not byte by byte.
+  void Head(std::string_view w, uint64_t& head0, uint64_t& head1) const {
     const size_t n = w.size() < kHead ? w.size() : kHead;
+    if (std::endian::native == std::endian::little &&
+        static_cast<size_t>(text_.data() + text_.size() - w.data()) >= kHead) {
+      std::memcpy(&head0, w.data(), 8);
+      std::memcpy(&head1, w.data() + 8, 8);
+      head0 &= n >= 8 ? ~uint64_t{0} : (uint64_t{1} << (8 * n)) - 1;
+      head1 &= n >= kHead ? ~uint64_t{0} : n <= 8 ? 0 : (uint64_t{1} << (8 * (n - 8))) - 1;
+      return;
+    }
+    char head[kHead] = {};
     for (size_t i = 0; i < n; ++i)
       head[i] = w[i];
     std::memcpy(&head0, head, 8);
     std::memcpy(&head1, head + 8, 8);
+  }
+
+  uint64_t Hash(std::string_view w, uint64_t& head0, uint64_t& head1) const {
+    Head(w, head0, head1);
     uint64_t hash = (head0 * 0xFF51AFD7ED558CCDULL) ^ (head1 * 0xC4CEB9FE1A85EC53ULL) ^ w.size();
     for (size_t i = kHead; i < w.size(); ++i)
       hash = (hash ^ static_cast<unsigned char>(w[i])) * 0x100000001B3ULL;
@@ -231,12 +276,13 @@ void Word_Count_Stripped_Text(AppState& s) {
     breaks[c] = s.Get_Word_String_Chr_Table[c] != 0;
 
   // A listed word takes at least three characters of the text (two letters and a break, or
-  // the text's end), so this is all the room the lists can need; room never written to costs
+  // the text's end), so this is all the room the list can need; room never written to costs
   // no memory.
-  s.DocumentWords.ReserveMore(length / 3 + 1, length);
+  s.DocumentWords.ReserveMore(length / 3 + 1);
 
   SpellingTable spellings(text);
-  std::string folded;
+  const auto fold =
+      s.WordMatchForceCase == 1 ? state::WordList::Fold::Lower : state::WordList::Fold::None;
   int32_t words = 0;  // the window repaints every few thousand words of a long page
   for (size_t i = 1; i <= length; ++i) {
     if (text[i - 1] == ' ')
@@ -253,21 +299,23 @@ void Word_Count_Stripped_Text(AppState& s) {
       bool fresh = false;
       SpellingTable::Entry& entry = spellings.Find(word, fresh);
       if (fresh) {
-        folded = s.WordMatchForceCase == 1 ? text::LCase(word) : std::string(word);
+        const std::string folded =
+            fold == state::WordList::Fold::Lower ? text::LCase(word) : std::string(word);
         if (s.WordMatchIgnoreAlphaNumeric == 1 && HasNonLetter(s, folded)) {
           entry.outcome = kSkippedWord;
         } else {
-          AppendToWordList(s, word, s.WordMatchForceCase == 1);
+          entry.spelling = s.DocumentWords.AddSpelling(word, fold);
+          AppendToWordList(s, entry.spelling);
           // Without case folding a new spelling is a new word: the dictionary started empty.
           if (lookup.Contains(text::LCase(folded)))
             entry.outcome = kFilterWord;
-          else if (s.WordMatchForceCase == 1)
+          else if (fold == state::WordList::Fold::Lower)
             entry.outcome = CountInDictionary(s, folded);
           else
             entry.outcome = NewDictionaryEntry(s, folded);
         }
       } else if (entry.outcome != kSkippedWord) {
-        AppendToWordList(s, word, s.WordMatchForceCase == 1);
+        AppendToWordList(s, entry.spelling);
         if (entry.outcome >= 0) {
           int16_t& count = At(s.UniqueWordCounts, entry.outcome);
           count = ToInt16(int32_t{count} + 1);

@@ -1,6 +1,7 @@
 #include "analysis/analysis_driver.h"
 
 #include "analysis_fixture.h"
+#include "commands/view_body_report.h"
 
 namespace zentrel::analysis {
 namespace {
@@ -25,6 +26,7 @@ TEST(Meta_Tag_KeyWord_Scan, WholeReportsMatchTheHandCheckedFiles) {
   EXPECT_EQ(a.s.Form.Body_Word_Count_Label, "Unique Word Count= 11");
   EXPECT_EQ(a.s.Form.Body_Word_Count_label2, "Word Count= 24");
   EXPECT_EQ(a.s.Form.MetaTag_TextBox[3], "shoes, red shoes, boots, sandals");
+  commands::ViewBody_Show(a.s);
   EXPECT_EQ(a.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox.substr(0, 12), "Red, Shoes, ");
 
   a.File("analysis_widgets.html");  // duplicates reported and removed
@@ -120,6 +122,11 @@ TEST(Meta_Tag_KeyWord_Scan, RunTimeErrorsEndOneAnalysisOnly) {
   a.s.ViewBodyShowRaw = 0;
   a.File("analysis_shoes.html");
   EXPECT_EQ(a.s.Form.ReportTextBox, testing::ReadTestData("analysis_shoes.report"));
+  // "View Body" joins its words only when shown, and then still shows those of the last
+  // analysis that got that far, not those of one that an error ended later.
+  EXPECT_THROW(a.Page(KeywordPage(many)), RunTimeError);
+  commands::ViewBody_Show(a.s);
+  EXPECT_EQ(a.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox.substr(0, 12), "Red, Shoes, ");
 }
 
 }  // namespace
