@@ -1,11 +1,11 @@
 #include "analysis/analysis_driver.h"
 
-#include "analysis_fixture.h"
+#include "started_program.h"
 
 namespace zentrel::analysis {
 namespace {
 
-using Analyser = testing::Analysis;
+using Analyser = testing::Started;
 
 std::string KeywordPage(const std::string& keywords) {
   return "<html><head><meta name=\"keywords\" content=\"" + keywords +

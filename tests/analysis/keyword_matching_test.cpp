@@ -3,8 +3,8 @@
 #include <random>
 #include <sstream>
 
-#include "analysis_fixture.h"
 #include "base/text.h"
+#include "started_program.h"
 #include "words/word_extraction.h"
 
 namespace zentrel::analysis {
@@ -12,10 +12,10 @@ namespace {
 
 using Counts = std::vector<int16_t>;
 
-struct Matching : testing::Analysis {
+struct Matching : testing::Started {
   Matching(const std::vector<std::string>& keywords, const std::vector<std::string>& words) {
     Keywords(keywords);
-    Words(words);
+    PageWords(words);
   }
   Counts Body() {
     Tally_Current_Documents_Keyword_Matches(s);
@@ -99,7 +99,7 @@ TEST(Tally_Current_Documents_Keyword_Matches, EqualsTheLiteralStepsOnRandomInput
     m.Keywords({});
     std::copy(keywords.begin(), keywords.end(), m.s.KeywordList.begin());  // blanks included
     m.s.KeywordCount = static_cast<int16_t>(keywords.size());
-    m.Words(page);
+    m.PageWords(page);
     m.s.TitleText = big ? random_text("ab", 200) : random_text("aAb ", 40);
     m.s.DocumentText = big ? random_text("ab", 200) : random_text("aAb<", 60);
     auto fold = [upper](const std::string& t) { return upper ? text::UCase(t) : t; };

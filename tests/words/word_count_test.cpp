@@ -1,30 +1,18 @@
 #include "words/word_count.h"
 
-#include <gtest/gtest.h>
-
 #include "base/run_time_error.h"
-#include "fake_platform.h"
-#include "state/app_state.h"
+#include "started_program.h"
 #include "words/filter_dictionary.h"
-#include "words/word_extraction.h"
 
 namespace zentrel::words {
 namespace {
 
 using Words = std::vector<std::string>;
 
-struct Counter {
-  testing::FakePlatform platform;
-  AppState s{platform};
-
+// Filtering with the given words only.
+struct Counter : testing::Started {
   explicit Counter(const Words& filters = {}) {
-    for (int c = 'a'; c <= 'z'; ++c)
-      s.LetterTable[static_cast<size_t>(c)] = s.LetterTable[static_cast<size_t>(c - 32)] = 1;
-    s.WordDelimiterChars = "\"#=<>^()[]{}/.,;:+-_*&!?@%";
-    Init_Get_word_string_Chr_table(s);
-    s.WordMatchIgnoreAlphaNumeric = 1;
-    s.FilterCapacity = 1000;
-    s.FilterWords.assign(1001, "");
+    s.FilterCount = 0;
     for (const std::string& w : filters)
       Add_Word_Filter(s, w);
     Build_Filter_Words_Text(s);

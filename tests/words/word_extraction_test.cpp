@@ -1,23 +1,14 @@
 #include "words/word_extraction.h"
 
-#include <gtest/gtest.h>
-
 #include "base/run_time_error.h"
-#include "fake_platform.h"
-#include "state/app_state.h"
+#include "started_program.h"
 
 namespace zentrel::words {
 namespace {
 
 using List = std::vector<std::string>;
 
-struct Words {
-  testing::FakePlatform platform;
-  AppState s{platform};
-  Words() {
-    s.WordDelimiterChars = "\"#=<>^()[]{}/.,;:+-_*&!?@%";
-    Init_Get_word_string_Chr_table(s);
-  }
+struct Words : testing::Started {
   // Every word of the text, read the way the word count walks it.
   List All(const std::string& text) {
     s.StrippedText = text;
