@@ -10,6 +10,7 @@
 #include <cstring>
 #include <filesystem>
 
+#include "full_disk.h"
 #include "test_files.h"
 
 namespace zentrel::file_io {
@@ -59,23 +60,25 @@ class FailingFileSystem : public FileSystem {
   int writes_ = 0;
 };
 
-size_t FilesIn(const fs::path& dir) {
-  return static_cast<size_t>(std::distance(fs::directory_iterator(dir), fs::directory_iterator()));
-}
-
 }  // namespace
 
-TEST(WriteFileAtomic, ReplacesTheFileKeepingItsModeAndWhenRootItsOwner) {
+// The file is replaced with its mode (and, for root, its owner) kept, through a chain of
+// symbolic links, and under a name as long as the folder allows.
+TEST(WriteFileAtomic, ReplacesTheFileKeepingItsModeOwnerAndLinks) {
   TempFolder dir;
-  std::string page = dir.File("page.html");
+  std::string page = dir.File(std::string(250, 'p') + ".html");
   WriteFile(page, "old");
   const bool root = ::geteuid() == 0;
   if (root) {
     ASSERT_EQ(::chown(page.c_str(), 4321, 4322), 0);
   }
   ::chmod(page.c_str(), 02750);  // set-group: lost if the owner were set after the mode
+  fs::create_symlink(fs::path(page).filename(), dir.File("link.html"));  // relative
+  fs::create_symlink(dir.File("link.html"), dir.File("outer.html"));
   WriteFileAtomic(page, "new bytes");
-  EXPECT_EQ(ReadFile(page), "new bytes");
+  WriteFileAtomic(dir.File("outer.html"), "through the links");
+  EXPECT_EQ(ReadFile(page), "through the links");
+  EXPECT_TRUE(fs::is_symlink(dir.File("outer.html")) && fs::is_symlink(dir.File("link.html")));
   struct stat st {};
   ::stat(page.c_str(), &st);
   EXPECT_EQ(st.st_mode & 07777, 02750u);
@@ -83,7 +86,7 @@ TEST(WriteFileAtomic, ReplacesTheFileKeepingItsModeAndWhenRootItsOwner) {
     EXPECT_EQ(st.st_uid, 4321u);
     EXPECT_EQ(st.st_gid, 4322u);
   }
-  EXPECT_EQ(FilesIn(dir.path()), 1u);
+  EXPECT_EQ(testing::EntriesIn(dir.path()), 3u);
 }
 
 TEST(WriteFileAtomic, OnlyRegularFilesAreReplaced) {
@@ -103,7 +106,7 @@ TEST(WriteFileAtomic, OnlyRegularFilesAreReplaced) {
     ASSERT_EQ(::mknod(dir.File("device").c_str(), S_IFCHR | 0666, makedev(1, 3)), 0);
     targets.emplace_back("device", "device");
   }
-  const size_t files = FilesIn(dir.path());
+  const size_t files = testing::EntriesIn(dir.path());
   for (const auto& [name, kind] : targets) {
     const std::string path = dir.File(name);
     struct stat before {
@@ -121,16 +124,7 @@ TEST(WriteFileAtomic, OnlyRegularFilesAreReplaced) {
     EXPECT_EQ(after.st_ino, before.st_ino) << name;
     EXPECT_EQ(after.st_mode, before.st_mode) << name;
   }
-  EXPECT_EQ(FilesIn(dir.path()), files) << "a temporary file was left behind";
-}
-
-TEST(WriteFileAtomic, NamesAsLongAsTheFolderAllowsCanBeSaved) {
-  TempFolder dir;
-  const std::string page = dir.File(std::string(250, 'p') + ".html");
-  WriteFileAtomic(page, "first");
-  WriteFileAtomic(page, "second");
-  EXPECT_EQ(ReadFile(page), "second");
-  EXPECT_EQ(FilesIn(dir.path()), 1u);
+  EXPECT_EQ(testing::EntriesIn(dir.path()), files) << "a temporary file was left behind";
 }
 
 TEST(WriteFileAtomic, EveryFailingStepLeavesTheOldFileAndNoTemporary) {
@@ -161,7 +155,7 @@ TEST(WriteFileAtomic, EveryFailingStepLeavesTheOldFileAndNoTemporary) {
       EXPECT_NE(message.find(std::strerror(c.err)), std::string::npos) << message;
     }
     EXPECT_EQ(ReadFile(page), "the author's page");
-    EXPECT_EQ(FilesIn(dir.path()), 1u) << "a temporary file was left behind";
+    EXPECT_EQ(testing::EntriesIn(dir.path()), 1u) << "a temporary file was left behind";
   }
 }
 
@@ -174,7 +168,7 @@ TEST(WriteFileAtomic, ShortAndInterruptedWritesAreContinued) {
     WriteFileAtomic(page, "all of the new bytes " + std::to_string(step), first);
     EXPECT_EQ(ReadFile(page), "all of the new bytes " + std::to_string(step));
   }
-  EXPECT_EQ(FilesIn(dir.path()), 1u);
+  EXPECT_EQ(testing::EntriesIn(dir.path()), 1u);
 }
 
 TEST(WriteFileAtomic, StaleTemporariesOfKilledSavesAreRemovedByTheNextSave) {
@@ -196,18 +190,6 @@ TEST(WriteFileAtomic, StaleTemporariesOfKilledSavesAreRemovedByTheNextSave) {
   EXPECT_TRUE(fs::exists(dir.File(".other.html.zentrel-Ab12Cd")));
   EXPECT_TRUE(fs::exists(dir.File(".page.html.zentrel-toolong")));
   EXPECT_TRUE(fs::exists(dir.File(".page.html.zentrel-Fresh1")));
-}
-
-TEST(WriteFileAtomic, AChainOfSymbolicLinksIsKept) {
-  TempFolder dir;
-  std::string real = dir.File("real.html");
-  WriteFile(real, "old");
-  fs::create_symlink("real.html", dir.File("link.html"));  // relative to its own folder
-  fs::create_symlink(dir.File("link.html"), dir.File("outer.html"));
-  WriteFileAtomic(dir.File("outer.html"), "through the links");
-  EXPECT_TRUE(fs::is_symlink(dir.File("outer.html")) && fs::is_symlink(dir.File("link.html")));
-  EXPECT_EQ(ReadFile(real), "through the links");
-  EXPECT_EQ(FilesIn(dir.path()), 3u);
 }
 
 TEST(ReadWholeFile, ClearMessagesForMissingFilesAndFolders) {

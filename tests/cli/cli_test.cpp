@@ -45,6 +45,7 @@ TEST(Cli, BadUsageExitsTwoWithAMessage) {
                                              {"frobnicate", "x.html"},
                                              {"report", "--bogus", "x.html"},
                                              {"rebuild", "x.html"},  // no -o
+                                             {"rebuild", "x.html", "y.html", "-o", "z"},
                                              {"report", "--force", "x.html"},
                                              {"rebuild", "x.html", "-o", "y", "--set", "title=x"}};
   for (const auto& args : usages) {
@@ -52,6 +53,7 @@ TEST(Cli, BadUsageExitsTwoWithAMessage) {
     EXPECT_EQ(r.status, 2) << args.size();
     EXPECT_FALSE(r.err.empty());
   }
+  EXPECT_NE(RunCli({"frobnicate"}).err.find("unknown command frobnicate"), std::string::npos);
   Result help = RunCli({"--help"});
   EXPECT_EQ(help.status, 0);
   EXPECT_NE(help.out.find("zentrel-cli rebuild"), std::string::npos);

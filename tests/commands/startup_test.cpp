@@ -43,6 +43,11 @@ TEST(Form_Load, WithoutPreferencesEverySettingIsItsDefault) {
   EXPECT_EQ(s.Form.KeyWords_MinKeyWordMatches_DropDown.List.size(), 99u);
   EXPECT_EQ(s.Form.KeyWords_MinKeyWordMatches_DropDown.Text, " 1 Match");
   EXPECT_TRUE(platform.messages.empty());
+  // No recent pages and no default dictionary: neither kind of line is written.
+  SavePreferencesFile(s);
+  const std::string saved = ReadFile(folder.File("Zentrel_Pref.txt"));
+  EXPECT_EQ(saved.find("FileLoaded:"), std::string::npos);
+  EXPECT_EQ(saved.find("DefaultWordFilterDictionary:"), std::string::npos);
 }
 
 // A standard dictionary of more words than its 16-bit count holds: the Overflow ends the two
@@ -60,44 +65,6 @@ TEST(Form_Load, AnErrorEndsOnlyTheStepThatRaisedIt) {
   EXPECT_EQ(s.KeywordsSortList, 0);
   EXPECT_EQ(s.Form.KeyWords_MinKeyWordMatches_DropDown.List.size(), 99u);
   EXPECT_EQ(s.LetterTable['z'], 1);
-}
-
-TEST(SavePreferencesFile, WritesEveryEntryInOrder) {
-  Started t;
-  AppState& s = t.s;
-  s.KeywordsSortList = -1;
-  s.KeywordsUseMinMatches = 1;
-  s.KeywordsMinMatches = 12;
-  s.KeywordsForceSameCase = s.KeywordsMatchScanType = s.WordMatchIgnoreAlphaNumeric = 0;
-  s.WordMatchForceCase = s.EncodeSwapContentAndNameOrder = 1;
-  s.EncodeComaSpaceBetweenKeywords = 0;
-  s.DecodeIncludeMetaDescriptionWithBody = 1;
-  s.DefaultFileExtension = ".html";
-  s.DefaultFileTypeIndex = 1;
-  s.WordDelimiterChars = "\".,;";
-  s.RecentFiles[0] = "/pages/new.html";
-  s.RecentFiles[1] = "/pages/old.html";
-  s.RecentFileCount = 2;
-  s.FilterDictionaryFile = "/dict/mine.txt";
-  SavePreferencesFile(s);
-  const std::string path = t.folder.File("Zentrel_Pref.txt");
-  EXPECT_EQ(ReadFile(path),
-            "ProgramTitle:Zentrel\r\nProgramVersion:V1.62\r\n"
-            "FileLoaded:/pages/old.html\r\nFileLoaded:/pages/new.html\r\n"
-            "Keywords_Sorted:-1\r\nKeywords_RemoveDuplicates: 1\r\n"
-            "Keywords_ForceSameCaseMatching: 0\r\nKeywords_MinMatches: 1\r\n"
-            "Keywords_NumberOfMinMatches: 12\r\nKeywords_MatchingType: 0\r\n"
-            "WordMatch_ForceSameCase: 1\r\nWordMatch_ForceAlphaNumeric: 0\r\n"
-            "FileType:.html\r\nFileTypeIndex: 1\r\nStopWordChrs:\".&COMA&;\r\n"
-            "SwapContentNameOrder: 1\r\nKeywordsComaSpace: 0\r\nIncludeMetaDizzy: 1\r\n"
-            "DefaultWordFilterDictionary:/dict/mine.txt\r\n");
-
-  // No recent pages and no default dictionary: neither kind of line is written.
-  s.RecentFileCount = 0;
-  s.FilterDictionaryFile.clear();
-  SavePreferencesFile(s);
-  EXPECT_EQ(ReadFile(path).find("FileLoaded:"), std::string::npos);
-  EXPECT_EQ(ReadFile(path).find("DefaultWordFilterDictionary:"), std::string::npos);
 }
 
 // CR-only line ends among the others.
@@ -142,7 +109,8 @@ TEST(LoadPreferencesFile, ReadsValuesTheWayTheyAreWritten) {
   EXPECT_EQ(t.platform.messages.size(), 2u);
 }
 
-// Seven loads (one page twice) leave the five newest, the repeat listed again.
+// Every stored setting away from its default and seven loads (one page twice): the file holds
+// them in its order, the five newest pages oldest first, and a restart reads them all back.
 TEST(ProgramEnded, RestartKeepsEveryStoredSettingAndTheRecentPages) {
   Started t;
   std::vector<std::string> pages;
@@ -151,7 +119,6 @@ TEST(ProgramEnded, RestartKeepsEveryStoredSettingAndTheRecentPages) {
   pages.push_back(pages[4]);
   for (const std::string& p : pages)
     t.Load(p);
-  // Every stored setting away from its default.
   AppState& s = t.s;
   for (int16_t* flag : {&s.KeywordsSortList, &s.KeywordsRemoveDoubles, &s.KeywordsForceSameCase,
                         &s.KeywordsUseMinMatches, &s.KeywordsMatchScanType, &s.WordMatchForceCase,
@@ -162,11 +129,25 @@ TEST(ProgramEnded, RestartKeepsEveryStoredSettingAndTheRecentPages) {
   s.Form.Defaults_Users_FileExtend_DropDown.Text = ".txt";
   t.Click("Defaults_Users_FileExtend_DropDown");
   Set_HtmlDecodePref_WordDecodeStopCHR_TextBox(s, "\".,;<>");
-  t.platform.AnswerOpen(t.Write("mine.txt", "zebra\r\nyak\r\n"));
+  const std::string mine = t.Write("mine.txt", "zebra\r\nyak\r\n");
+  t.platform.AnswerOpen(mine);
   t.Click("WordFiltersPage_SelectDefaultWordDictionary_Button");
   const std::string before = Kept_Settings(s);
   t.Click("mnu_File_Quit");
   EXPECT_TRUE(s.Form.ProgramHasEnded);
+  std::string recent;
+  for (const std::string& p : {pages[2], pages[3], pages[4], pages[5], pages[4]})
+    recent += "FileLoaded:" + p + "\r\n";
+  EXPECT_EQ(ReadFile(t.folder.File("Zentrel_Pref.txt")),
+            "ProgramTitle:Zentrel\r\nProgramVersion:V1.62\r\n" + recent +
+                "Keywords_Sorted: 0\r\nKeywords_RemoveDuplicates: 0\r\n"
+                "Keywords_ForceSameCaseMatching: 0\r\nKeywords_MinMatches: 1\r\n"
+                "Keywords_NumberOfMinMatches: 17\r\nKeywords_MatchingType: 0\r\n"
+                "WordMatch_ForceSameCase: 1\r\nWordMatch_ForceAlphaNumeric: 0\r\n"
+                "FileType:.txt\r\nFileTypeIndex: 3\r\nStopWordChrs:\".&COMA&;<>\r\n"
+                "SwapContentNameOrder: 1\r\nKeywordsComaSpace: 0\r\nIncludeMetaDizzy: 1\r\n"
+                "DefaultWordFilterDictionary:" +
+                mine + "\r\n");
 
   FakePlatform platform(t.folder.Path());
   AppState again(platform);

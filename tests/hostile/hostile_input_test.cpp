@@ -44,46 +44,23 @@ struct Hostile : testing::Started {
   }
 };
 
+// Pages that would take quadratic time or deep recursion if handled naively, broken markup at
+// the page's end, and bytes that are no HTML at all (arbitrary bytes are the fuzzers' part).
 TEST(Hostile, EveryPageEndsInAReport) {
-  const std::string utf16 = [] {
-    std::string s = "\xFF\xFE";
-    for (char c : Wrap("hello world"))
-      s += std::string(1, c) + '\0';
-    return s;
-  }();
   const std::pair<const char*, std::string> pages[] = {
       {"four megabytes of <", std::string(k4M, '<')},
       {"100000 nested divs", Wrap(Repeat("<div>", 100000) + "deep words")},
       {"unterminated comment", Wrap("<!-- never closed " + Repeat("x ", 1000))},
-      {"unterminated script", Wrap("<script> var a = 1; " + Repeat("b ", 1000))},
       {"unterminated title", "<html><head><title>Never closed"},
-      {"unterminated attribute quote", Wrap("<a href=\"x>text<p class=\"y>more")},
-      {"closing script split", Wrap("<script>var s = \"</scr\" + \"ipt>\";</script>after")},
-      {"ampersand last", Wrap("fish and chips") + "&"},
       {"tag start last", Wrap("fish and chips") + "<"},
       {"a four megabyte word", Wrap(std::string(k4M, 'w'))},
-      {"NUL bytes", Wrap("a\0b\0c words\0"s)},
-      {"invalid UTF-8", Wrap("caf\xC3 \xFF\xFE words \xE2\x82")},
-      {"UTF-16", utf16},
-      {"mixed line ends", Wrap("one\r\ntwo\nthree\rfour\n\r")},
-      {"no sections", "just some words here"},
-      {"two heads", "<html><head></head><head></head><body>x</body></html>"},
-      {"two titles", "<html><head><title>a</title><title>b</title></head></html>"},
-      {"two bodies", "<html><body>one</body><body>two</body></html>"},
-      {"10000 META tags",
-       Wrap(Repeat("<meta name=\"keywords\" content=\"alpha, beta\">\r\n", 10000))},
-      {"1 MB META content",
-       Wrap("<meta name=\"description\" content=\"" + Repeat("d", 1 << 20) + "\">")},
+      {"10000 META tags", Wrap(Repeat("<meta name=\"keywords\" content=\"alpha, beta\">", 10000))},
       {"1 MB title", "<html><head><title>" + Repeat("t", 1 << 20) + "</title></head></html>"},
       {"empty", ""},
-      {"one byte", "x"},
       {"PNG", "\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\0\x10"s + Repeat("\x7f<\x01>", 4000)},
-      {"ZIP", "PK\x03\x04\x14\0\0\0\x08\0"s + Repeat("\xc3>\x8b<\0", 4000)},
-      {"100000 unclosed titles", Wrap(Repeat("<title>", 100000))},
       {"100000 unclosed scripts", Wrap(Repeat("<script>", 100000))},
       {"100000 unclosed ALT quotes", Wrap(Repeat("<img alt=\"x>", 100000))},
       {"4 MB of entities", Wrap(Repeat("&nbsp;", k4M / 6))},
-      {"white space only", std::string(k4M, ' ')},
   };
   Hostile h;
   for (const auto& [name, page] : pages) {
