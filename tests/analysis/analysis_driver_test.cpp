@@ -1,5 +1,6 @@
 #include "analysis/analysis_driver.h"
 
+#include "analysis/page_report.h"
 #include "started_program.h"
 
 namespace zentrel::analysis {
@@ -24,15 +25,7 @@ TEST(Meta_Tag_KeyWord_Scan, WholeReportsMatchTheHandCheckedFiles) {
 
   a.File("analysis_widgets.html");  // duplicates reported and removed
   EXPECT_EQ(a.s.Form.ReportTextBox, testing::ReadTestData("analysis_widgets_defaults.report"));
-
-  // A typed filter word, the text scan, low-match removal and the word list.
-  a.s.KeywordsMatchScanType = 0;
-  a.s.UsersKeywordsText = "Sprockets, the ,";
-  a.s.ReportExportWordCount = 1;
-  a.s.Form.KeyWords_MinKeyWordMatches_Option = 1;
-  a.s.Form.KeyWords_MinKeyWordMatches_DropDown.Text = " 1 Match";
-  a.File("analysis_widgets.html");
-  EXPECT_EQ(a.s.Form.ReportTextBox, testing::ReadTestData("analysis_widgets.report"));
+  // The other settings' golden report is the command line's.
 }
 
 TEST(Meta_Tag_KeyWord_Scan, KeywordCountAndLengthWarningsAtTheirBoundaries) {
@@ -111,6 +104,32 @@ TEST(Meta_Tag_KeyWord_Scan, RunTimeErrorsEndOneAnalysisOnly) {
   a.s.ViewBodyShowRaw = 0;
   a.File("analysis_shoes.html");
   EXPECT_EQ(a.s.Form.ReportTextBox, testing::ReadTestData("analysis_shoes.report"));
+}
+
+// Odd and even lengths are centred in the report golden files; these are the edges.
+TEST(Report_Center, HalvesGoToTheEvenNeighbour) {
+  const std::pair<size_t, int32_t> pads[] = {{0, 37}, {75, 0}, {77, 0}};
+  for (const auto& [length, pad] : pads)
+    EXPECT_EQ(Report_Center_Pad(length), pad) << length;
+  testing::Started w;
+  Reset_Report(w.s);
+  Report_Center(w.s, std::string(80, 'x'));
+  Report_Center(w.s, "abc");
+  EXPECT_EQ(Report_Text(w.s), std::string(80, 'x') + "\r\n" + std::string(36, ' ') + "abc\r\n ");
+}
+
+// Lines past the buffer's end, one longer than a growth step and one longer than all before
+// it, land whole.
+TEST(Report, GrowsTheBufferAndLosesNothing) {
+  testing::Started w;
+  Reset_Report(w.s);
+  std::string expected;
+  for (const std::string& line : {std::string(98, 'r'), std::string(99000, 'L'),
+                                  std::string(60000, 'M'), std::string(200000, 'H')}) {
+    Report(w.s, line);
+    expected += line + "\r\n";
+  }
+  EXPECT_EQ(Report_Text(w.s), expected + " ");
 }
 
 }  // namespace

@@ -88,14 +88,5 @@ TEST(Sort_Page_KeyWord_Strings, MostMatchesFirstAndEqualCountsReversed) {
   EXPECT_THROW(Sort_Page_KeyWord_Strings(k.s), RunTimeError);
 }
 
-TEST(Add_Word_To_KeyWord_buffer, GrowsByTwoHundredKeepingContents) {
-  Keywords k;
-  for (int i = 0; i < 501; ++i)
-    Add_Word_To_KeyWord_buffer(k.s, " kw" + std::to_string(i) + " ");
-  EXPECT_EQ(k.s.KeywordCapacity, 700);
-  EXPECT_EQ(k.Keys().front(), "kw0");
-  EXPECT_EQ(k.Keys().back(), "kw500");
-}
-
 }  // namespace
 }  // namespace zentrel::analysis

@@ -3,9 +3,14 @@
 #include "commands/page_loading.h"
 
 #include <sys/stat.h>
-
 #include <filesystem>
 
+#include "../metatags/encoder_test_page.h"
+#include "commands/edit_meta_tags.h"
+#include "commands/file_menu.h"
+#include "commands/page_saving.h"
+#include "commands/view_body_report.h"
+#include "full_disk.h"
 #include "started_program.h"
 
 namespace zentrel::commands {
@@ -110,6 +115,116 @@ TEST(Clip_FileName, KeepsTheHeadAndTheTail) {
             " 1: /h/...es/site/www/index_040.html");
   EXPECT_EQ(Clip_FileName("/a/b.html", " 1:", 13), " 1: /a/b.html");  // exactly the limit
   EXPECT_EQ(Clip_FileName("/a/bc.html", " 1:", 13), " 1: /a/...bc.html");
+}
+
+using testing::EncoderTestPage;
+using testing::ReadFile;
+using testing::ReadTestData;
+
+const std::string kSavedPage =
+    "<html>\r\n<head><TITLE>Saved</TITLE>\r\n\r\n</head>\r\n<body>\r\nHello\r\n</body>\r\n"
+    "</html>\r\n";
+
+TEST(Do_save, SavesUnderTheNewNameAndMakesItTheCurrentDocument) {
+  EncoderTestPage page;
+  Do_save(page.s);  // no document: no dialog (an unexpected one fails the test)
+  std::string oldPath = page.LoadData("encoder_page.html");
+  std::string newPath = page.folder.File("saved.html");
+  Set_MetaTag_TextBox(page.s, 0, "Saved");
+  page.platform.AnswerSave(newPath, 1, ".html");
+  page.Click("mnu_File_SAVESA");
+  const state::FileDialog& shown = page.platform.dialogs.at(0);
+  EXPECT_EQ(shown.FileName, oldPath);
+  EXPECT_EQ(shown.Filter, "(*.html)|*.html|(*.htm)|*.htm|(*.txt)|*.txt|(*.*)|*.*|");
+  EXPECT_EQ(shown.FilterIndex, 2);
+  EXPECT_EQ(page.s.DefaultFileTypeIndex, 1);
+
+  EXPECT_EQ(ReadFile(newPath), kSavedPage);
+  EXPECT_EQ(ReadFile(oldPath), ReadTestData("encoder_page.html"));
+  EXPECT_EQ(page.Cache(), kSavedPage);
+  EXPECT_EQ(page.s.Form.Caption, newPath + "   Zentrel V1.62");
+
+  page.platform.CancelDialog();
+  Do_save(page.s);
+  EXPECT_EQ(page.FolderEntries(), (std::set<std::string>{"encoder_page.html", "saved.html"}));
+}
+
+TEST(mnu_File_SAVE_Click, NeverWritesAndPicture2OverwritesTheLoadedFile) {
+  EncoderTestPage page;
+  std::string path = page.LoadData("encoder_page.html");
+  Set_MetaTag_TextBox(page.s, 0, "Saved");
+  page.Click("mnu_File_SAVE");
+  EXPECT_EQ(ReadFile(path), ReadTestData("encoder_page.html"));
+  EXPECT_EQ(page.FolderEntries(), std::set<std::string>{"encoder_page.html"});
+  page.Click("Picture2");
+  EXPECT_EQ(ReadFile(path), kSavedPage);
+}
+
+// A save or a rebuild that cannot be written leaves the page in the cache as it was.
+TEST(Picture2_Click, AFailingWriteLeavesTheCacheAsItWas) {
+  testing::FullDisk disk;
+  EncoderTestPage page(disk);
+  page.LoadData("encoder_page.html");
+  Set_MetaTag_TextBox(page.s, 0, "Saved");
+  EXPECT_THROW(Picture2_Click(page.s), file_io::FileError);
+  EXPECT_THROW(HTML_ENCODE_Document(page.s, "Testing", 1), file_io::FileError);
+  EXPECT_EQ(page.Cache(), ReadTestData("encoder_page.html"));
+  EXPECT_EQ(page.FolderEntries(), std::set<std::string>{"encoder_page.html"});
+}
+
+TEST(PageReport_SAVEAS_Click, WritesTheReportAsItStands) {
+  testing::Started t;
+  const std::string report = t.folder.File("report.txt");
+  PageReport_SAVEAS_Click(t.s);  // no report yet: no dialog at all
+  t.s.Form.ReportTextBox = "Report\r\n ";
+  t.platform.AnswerSave(report);
+  t.Click("PageReport_SAVEAS");
+  EXPECT_EQ(ReadFile(report), "Report\r\n ");
+  ASSERT_EQ(t.platform.dialogs.size(), 1u);
+  EXPECT_EQ(t.platform.dialogs[0].Filter, "(*.txt)|*.txt|");
+  EXPECT_EQ(t.platform.dialogs[0].DefaultExt, ".txt");
+
+  t.platform.CancelDialog();
+  t.s.Form.ReportTextBox = "changed";
+  PageReport_SAVEAS_Click(t.s);
+  EXPECT_EQ(ReadFile(report), "Report\r\n ");
+}
+
+TEST(ViewBody_SaveAs_Click, AnEmptyBodyGivesAnEmptyFile) {
+  testing::Started t;
+  const std::string body = t.Write("body.txt", "old");
+  t.platform.AnswerSave(body);
+  t.Click("ViewBody_SaveAs");
+  EXPECT_EQ(ReadFile(body), "");
+  t.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox = "garden tools";
+  t.platform.AnswerSave(body);
+  t.Click("ViewBody_SaveAs");
+  EXPECT_EQ(ReadFile(body), "garden tools");
+}
+
+// Both saves show a failed write in a message naming the file.
+TEST(Do_Save_REPORT, AFailedWriteIsShown) {
+  testing::FullDisk disk;
+  testing::Started t(disk);
+  t.s.Form.ReportTextBox = "new report";
+  t.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox = "new body";
+  const std::string report = t.folder.File("report.txt"), body = t.folder.File("body.txt");
+  t.platform.AnswerSave(report);
+  Do_Save_REPORT(t.s);
+  t.platform.AnswerSave(body);
+  ViewBody_SaveAs_Click(t.s);
+  ASSERT_EQ(t.platform.messages.size(), 2u);
+  EXPECT_NE(t.platform.messages[0].find(report), std::string::npos);
+  EXPECT_NE(t.platform.messages[1].find(body), std::string::npos);
+}
+
+TEST(Users_METATAGS_TextBox, TheBoxIsTheUsersKeywordsAndClearEmptiesBoth) {
+  testing::Started t;
+  Set_Users_METATAGS_TextBox(t.s, "rake, hoe,");
+  EXPECT_EQ(t.s.UsersKeywordsText, "rake, hoe,");
+  t.Click("Users_METATAGS_Clear_Command");
+  EXPECT_EQ(t.s.Form.Users_METATAGS_TextBox, "");
+  EXPECT_EQ(t.s.UsersKeywordsText, "");
 }
 
 }  // namespace

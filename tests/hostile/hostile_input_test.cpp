@@ -1,13 +1,8 @@
 // Hostile inputs, each loaded through the window's own "Load Page" command with the scripted
-// platform: every page ends in a report (or, empty, in nothing), paths that are no page in a
-// clear message, and a good page loads normally right after each. The counts' limits (1001
-// repeats, 32768 words, 1002 keywords) are tested where they are raised; times are measured in
+// platform: every page ends in a report (or, empty, in nothing), and a good page loads normally
+// right after each. The counts' limits (1001 repeats, 32768 words, 1002 keywords) are tested
+// where they are raised, paths that are no page in the loading tests; times are measured in
 // the benchmarks.
-
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <filesystem>
 
 #include "heavy_inputs.h"
 #include "started_program.h"
@@ -15,7 +10,6 @@
 namespace zentrel {
 namespace {
 
-namespace fs = std::filesystem;
 using namespace std::string_literals;
 using bench::Repeat;
 
@@ -86,44 +80,6 @@ TEST(Hostile, HeavyInputsEndInAReport) {
     EXPECT_TRUE(platform.messages.empty()) << platform.messages.front();
     EXPECT_NE(s.Form.ReportTextBox.find("Process Done"), std::string::npos);
   }
-}
-
-// A folder or an unreadable file is named in a message; a missing path or a loop of links
-// gives nothing.
-TEST(Hostile, PathsThatAreNotPagesGiveAMessageOrNothing) {
-  Hostile h;
-  fs::create_directory(h.folder.File("folder.html"));
-  fs::create_symlink(h.folder.File("loop-b"), h.folder.File("loop-a"));
-  fs::create_symlink(h.folder.File("loop-a"), h.folder.File("loop-b"));
-  std::vector<std::string> paths = {"folder.html", "missing.html", "loop-a"};
-  if (::geteuid() != 0) {
-    ::chmod(h.Write("locked.html", "<html></html>").c_str(), 0);
-    paths.push_back("locked.html");
-  }
-  for (const std::string& name : paths) {
-    h.platform.messages.clear();
-    h.Load(h.folder.File(name));
-    const bool named = name == "folder.html" || name == "locked.html";
-    ASSERT_EQ(h.platform.messages.size(), named ? 1u : 0u) << name;
-    if (named)
-      EXPECT_NE(h.platform.messages[0].find("Cannot read"), std::string::npos);
-  }
-  h.Expect_Good_Page_Still_Analyses();
-}
-
-TEST(Hostile, PreferencesFilesNeverStopTheProgram) {
-  testing::ShellProgramFolder folder;
-  testing::WriteFile(folder.File("Zentrel_Pref.txt"), Repeat("FileLoaded:/x/page.html\r\n", 10000) +
-                                                          "Keywords_Sorted: 99999\r\n" +
-                                                          "Keywords_MinMatches: 3\r\n");
-  testing::FakePlatform platform(folder.Path());
-  AppState s(platform);
-  commands::Form_Load(s);
-  EXPECT_EQ(s.RecentFileCount, 5);
-  EXPECT_EQ(s.KeywordsSortList, 1) << "the overflowing line keeps the default";
-  EXPECT_EQ(s.KeywordsUseMinMatches, 3);
-  ASSERT_FALSE(platform.messages.empty());
-  EXPECT_NE(platform.messages.back().find("Overflow"), std::string::npos);
 }
 
 }  // namespace
