@@ -23,25 +23,6 @@ struct Matching : testing::Started {
   }
 };
 
-TEST(Tally_Current_Documents_Keyword_Matches, TextScanCountsEverywhereInTheSource) {
-  Matching m({"shoe", "keywords", "ana"}, {"Shoes", "and", "SHOESTRING", "banana"});
-  m.s.KeywordsMatchScanType = 0;
-  m.s.DocumentText =
-      "<meta name=\"keywords\" content=\"shoe\"><body>Shoes and a SHOESTRING, banana</body>";
-  EXPECT_EQ(m.Body(), (Counts{3, 1, 2}));
-
-  // Counts add to what the keyword already had; the part-match setting changes nothing.
-  m.s.KeywordsForceSameCase = 0;
-  m.s.KeywordsDisablePartMatches = 0;
-  EXPECT_EQ(m.Body(), (Counts{4, 2, 4}));
-}
-
-// A phrase whose first word is the document's last word gives no match.
-TEST(Tally_Current_Documents_Keyword_Matches, WordScanPhraseAtTheEnd) {
-  Matching last({"blue cat", "cat"}, {"cat", "blue"});
-  EXPECT_EQ(last.Body(), (Counts{0, 1}));
-}
-
 // The tallies as their steps read: repeated searches from one past the last hit, and a
 // word-by-word comparison at every position up to one past the last word.
 int64_t Literal_Text_Count(const std::string& text, const std::string& keyword) {

@@ -1,4 +1,4 @@
-// Opening pages, the recent-file menu and "&New", driven through the Form model.
+// Opening, saving and exporting pages, the recent-file menu and "&New", through the Form model.
 
 #include "commands/page_loading.h"
 
@@ -21,7 +21,7 @@ struct Loads : testing::Started {
   std::string Page(const std::string& name) { return Write(name, page); }
 };
 
-TEST(Do_Load_File, LoadsTheChosenPageAndPutsItFirstInTheMenu) {
+TEST(Do_Load_File, LoadsTheChosenPageAndNewEmptiesIt) {
   Loads t;
   std::string path = t.Page("first.html");
   t.s.DefaultFileTypeIndex = 3;
@@ -46,6 +46,18 @@ TEST(Do_Load_File, LoadsTheChosenPageAndPutsItFirstInTheMenu) {
   t.platform.CancelDialog();  // the next dialog starts from the page now loaded
   t.Click("mnu_file_Load");
   EXPECT_EQ(t.platform.dialogs.at(1).FileName, path);
+
+  // "&New" empties the page and its boxes; the menu keeps its entries.
+  t.Click("Mnu_File_new");
+  EXPECT_EQ(t.s.DocumentLength, 0);
+  EXPECT_EQ(t.s.Form.Html_Document_Editor + t.s.Form.ScanKeyWords_KeyWordMatches_TextBox +
+                t.s.Form.MetaTag_TextBox[0],
+            "");
+  EXPECT_EQ(t.s.Form.Caption, "   Zentrel V1.62");
+  EXPECT_EQ(t.s.RecentFileCount, 1);
+  t.platform.CancelDialog();
+  t.Click("Command1");
+  EXPECT_EQ(t.platform.dialogs.back().FileName, "");
 }
 
 TEST(Load_File_QuickLoadMenu, ReopensAnEntryWithoutMovingIt) {
@@ -93,21 +105,6 @@ TEST(Do_Load_File, WhatIsNoPageLeavesThePageInHand) {
   EXPECT_EQ(t.s.Form.ReportTextBox, report);
   EXPECT_EQ(t.s.Form.Caption, caption);
   EXPECT_EQ(t.s.RecentFileCount, 2);
-}
-
-TEST(Clear_Document, NewEmptiesThePageAndTheNextDialogStartsWithNoName) {
-  Loads t;
-  t.Load(t.Page("a.html"));
-  t.Click("Mnu_File_new");
-  EXPECT_EQ(t.s.DocumentLength, 0);
-  EXPECT_EQ(t.s.Form.Html_Document_Editor, "");
-  EXPECT_EQ(t.s.Form.ScanKeyWords_KeyWordMatches_TextBox, "");
-  EXPECT_EQ(t.s.Form.MetaTag_TextBox[0], "");
-  EXPECT_EQ(t.s.Form.Caption, "   Zentrel V1.62");
-  EXPECT_EQ(t.s.RecentFileCount, 1);  // the menu keeps its entries
-  t.platform.CancelDialog();
-  t.Click("Command1");
-  EXPECT_EQ(t.platform.dialogs.back().FileName, "");
 }
 
 TEST(Clip_FileName, KeepsTheHeadAndTheTail) {
@@ -172,34 +169,25 @@ TEST(Picture2_Click, AFailingWriteLeavesTheCacheAsItWas) {
   EXPECT_EQ(page.FolderEntries(), std::set<std::string>{"encoder_page.html"});
 }
 
-TEST(PageReport_SAVEAS_Click, WritesTheReportAsItStands) {
+// The report and the body text are written as they stand; no report, no dialog.
+TEST(PageReport_SAVEAS_Click, ReportAndBodyAreWrittenAsTheyStand) {
   testing::Started t;
-  const std::string report = t.folder.File("report.txt");
-  PageReport_SAVEAS_Click(t.s);  // no report yet: no dialog at all
-  t.s.Form.ReportTextBox = "Report\r\n ";
-  t.platform.AnswerSave(report);
-  t.Click("PageReport_SAVEAS");
-  EXPECT_EQ(ReadFile(report), "Report\r\n ");
-  ASSERT_EQ(t.platform.dialogs.size(), 1u);
-  EXPECT_EQ(t.platform.dialogs[0].Filter, "(*.txt)|*.txt|");
-  EXPECT_EQ(t.platform.dialogs[0].DefaultExt, ".txt");
-
-  t.platform.CancelDialog();
-  t.s.Form.ReportTextBox = "changed";
   PageReport_SAVEAS_Click(t.s);
-  EXPECT_EQ(ReadFile(report), "Report\r\n ");
-}
-
-TEST(ViewBody_SaveAs_Click, AnEmptyBodyGivesAnEmptyFile) {
-  testing::Started t;
-  const std::string body = t.Write("body.txt", "old");
-  t.platform.AnswerSave(body);
-  t.Click("ViewBody_SaveAs");
-  EXPECT_EQ(ReadFile(body), "");
-  t.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox = "garden tools";
-  t.platform.AnswerSave(body);
-  t.Click("ViewBody_SaveAs");
-  EXPECT_EQ(ReadFile(body), "garden tools");
+  const std::string file = t.Write("out.txt", "old");
+  for (const char* body : {"garden tools", ""}) {
+    t.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox = body;
+    t.platform.AnswerSave(file);
+    t.Click("ViewBody_SaveAs");
+    EXPECT_EQ(ReadFile(file), body);
+  }
+  t.s.Form.ReportTextBox = "Report\r\n ";
+  t.platform.AnswerSave(file);
+  t.Click("PageReport_SAVEAS");
+  EXPECT_EQ(ReadFile(file), "Report\r\n ");
+  EXPECT_EQ(t.platform.dialogs.back().Filter, "(*.txt)|*.txt|");
+  t.platform.CancelDialog();
+  t.Click("PageReport_SAVEAS");
+  EXPECT_EQ(ReadFile(file), "Report\r\n ");
 }
 
 // Both saves show a failed write in a message naming the file.

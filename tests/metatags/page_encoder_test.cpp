@@ -26,16 +26,6 @@ void Fill_All_Fields(AppState& s) {
     Set_MetaTag_TextBox(s, i, fields[i]);
 }
 
-TEST(Build_Meta_Tag, OnlyTheFirstAttributeIsTrimmed) {
-  testing::FakePlatform platform;
-  AppState s(platform);
-  EXPECT_EQ(Build_Meta_Tag(s, " noindex ", " robots "),
-            "<META content=\"noindex\" name=\" robots \">\r\n");
-  s.EncodeSwapContentAndNameOrder = 1;
-  EXPECT_EQ(Build_Meta_Tag(s, "  lead", " robots "),
-            "<META name=\"robots\" content=\"  lead\">\r\n");
-}
-
 TEST(HTML_ENCODE_Document, FullSetOfFieldsInBothOrders) {
   for (int16_t swap : {int16_t{0}, int16_t{1}}) {
     EncoderTestPage page;

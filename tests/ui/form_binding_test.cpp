@@ -17,17 +17,6 @@
 
 namespace zentrel::ui {
 
-TEST(TextCodec, EditorPositionsCountLineBreaksAndWideCharacters) {
-  // "\xC3\xA9" is two bytes, the CR LF one break, the emoji two units in the editor.
-  const std::string page = "a\xC3\xA9\r\nb\xF0\x9F\x98\x80x";
-  for (const auto& [byte, unit] : {std::pair{3, 2}, {5, 3}, {10, 6}}) {
-    EXPECT_EQ(ByteToEditor(page, Codec::Utf8, byte), unit) << byte;
-    EXPECT_EQ(EditorToByte(page, Codec::Utf8, unit), static_cast<size_t>(byte)) << unit;
-  }
-  EXPECT_EQ(EditorToByte(page, Codec::Utf8, 99), page.size());
-  EXPECT_EQ(ByteToEditor("\xE9\xE9\r\n!", Codec::Windows1252, 5), 4);
-}
-
 TEST(cCommonDialog, FilterTextBecomesQtNameFilters) {
   EXPECT_EQ(cCommonDialog::NameFilters("(*.html)|*.html|(*.*)|*.*|"),
             (QStringList{"(*.html)", "(*.*)"}));
@@ -44,26 +33,6 @@ class FormBindingTest : public ::testing::Test {
   AppState s{platform};
   FormBinding bind{s};
 };
-
-TEST_F(FormBindingTest, EditedPageSourceKeepsItsBytesAndLineEnds) {
-  // A Windows-1252 page with CR LF line ends and a no-break space.
-  s.Form.Html_Document_Editor = "<p>caf\xE9!\xA0\x81</p>\r\n<p>two</p>\r\n";
-  QPlainTextEdit editor;
-  bind.CodecSource(&s.Form.Html_Document_Editor);
-  bind.TextArea(&editor, &s.Form.Html_Document_Editor);
-  bind.Push();
-  EXPECT_EQ(bind.PageCodec(), Codec::Windows1252);
-  // toPlainText shows the no-break space as a space; the pull below must still give 0xA0.
-  EXPECT_EQ(editor.toPlainText(), QString::fromUtf8("<p>caf\xC3\xA9! \xC2\x81</p>\n<p>two</p>\n"));
-
-  QTextCursor c(editor.document());
-  c.movePosition(QTextCursor::End);
-  c.insertText(QStringLiteral("<p>\u00FCber</p>"));
-  bind.Pull();
-  EXPECT_EQ(s.Form.Html_Document_Editor,
-            "<p>caf\xE9!\xA0\x81</p>\r\n<p>two</p>\r\n<p>\xFC"
-            "ber</p>");
-}
 
 TEST_F(FormBindingTest, OnlyWhatTheUserChangedGoesBackIntoTheForm) {
   s.Form.Html_Document_Editor = "plain ascii page";

@@ -29,6 +29,27 @@ struct Counter : testing::Started {
       dictionary.push_back(s.UniqueWords[i] + "=" + std::to_string(s.UniqueWordCounts[i]));
     return {{s.DocumentWords.begin(), s.DocumentWords.begin() + s.DocumentWordCount}, dictionary};
   }
+  // Every word of the text, read the way the word count walks it.
+  Words All(const std::string& text) {
+    s.StrippedText = text;
+    Words out;
+    for (int32_t i = 1; i <= static_cast<int32_t>(text.size()); ++i) {
+      const std::string word = Get_Word_String(s, i);
+      if (!word.empty())
+        out.push_back(word);
+      i += static_cast<int32_t>(word.size());
+    }
+    return out;
+  }
+  Words Rebuild(const std::string& box) {
+    s.Form.WordFiltersPage_WordDictionary = box;
+    commands::Resort_And_Removed_Doubles_From_Filter_Dictionary(s);
+    return {s.FilterWords.begin(), s.FilterWords.begin() + s.FilterCount};
+  }
+  Words Split(const std::string& text) {
+    const int16_t n = Split_String(s, text);
+    return {s.Split_String_List.begin(), s.Split_String_List.begin() + n};
+  }
 };
 
 // Distinct letter-only words: "aaaa", "aaab", ...
@@ -115,42 +136,21 @@ TEST(Word_Count_Stripped_Text, LimitsOfTheCounts) {
   }
 }
 
-using List = std::vector<std::string>;
-
-struct Reader : testing::Started {
-  // Every word of the text, read the way the word count walks it.
-  List All(const std::string& text) {
-    s.StrippedText = text;
-    List out;
-    for (int32_t i = 1; i <= static_cast<int32_t>(text.size()); ++i) {
-      const std::string word = Get_Word_String(s, i);
-      if (!word.empty())
-        out.push_back(word);
-      i += static_cast<int32_t>(word.size());
-    }
-    return out;
-  }
-  List Split(const std::string& text) {
-    const int16_t n = Split_String(s, text);
-    return {s.Split_String_List.begin(), s.Split_String_List.begin() + n};
-  }
-};
-
 TEST(Get_Word_String, ReadsOneWordAndDropsTheTextsLastCharacter) {
-  Reader w;
+  Counter w;
   EXPECT_EQ(w.All("e-mail don't a+b 50% caf\xe9 x "),
-            (List{"e", "mail", "don't", "a", "b", "50", "caf\xe9", "x"}));
-  EXPECT_EQ(w.All("abc"), List{"ab"});
+            (Words{"e", "mail", "don't", "a", "b", "50", "caf\xe9", "x"}));
+  EXPECT_EQ(w.All("abc"), Words{"ab"});
   for (int32_t start : {3, 4, 1000, -7})
     EXPECT_EQ(Get_Word_String(w.s, start), "") << start;
   w.s.WordDelimiterChars += "'";
   Init_Get_word_string_Chr_table(w.s);
-  EXPECT_EQ(w.All("don't "), (List{"don", "t"}));
+  EXPECT_EQ(w.All("don't "), (Words{"don", "t"}));
 }
 
 TEST(Split_String, CutsAtCommasAndLowControlCodesKeepingQuirks) {
-  Reader w;
-  const std::pair<std::string, List> cases[] = {
+  Counter w;
+  const std::pair<std::string, Words> cases[] = {
       {"red, green ,blue", {"red", "green", "blue"}},
       {"", {}},
       {"a,b,", {"a", "b,"}},
@@ -172,11 +172,6 @@ TEST(Split_String, CutsAtCommasAndLowControlCodesKeepingQuirks) {
   }
 }
 
-TEST(Trim_Spaces_String, OnlySpacesAreTrimmed) {
-  EXPECT_EQ(Trim_Spaces_String("  x y  "), "x y");
-  EXPECT_EQ(Trim_Spaces_String("\tx"), "\tx");
-}
-
 TEST(MakeStringSingleSpaced, CollapsesDoubleQuotePairsOnly) {
   const std::pair<const char*, const char*> cases[] = {
       {"a\"\"b", "a b"}, {"\"\"\"\"", "  "}, {"\"\"\"", " \""}, {"a  b", "a  b"}};
@@ -188,16 +183,8 @@ using commands::Load_Word_Filter_Dictionary;
 using commands::Resort_And_Removed_Doubles_From_Filter_Dictionary;
 using commands::Save_Word_Filter_Dictionary;
 
-struct Dictionary : testing::Started {
-  Words Rebuild(const std::string& box) {
-    s.Form.WordFiltersPage_WordDictionary = box;
-    Resort_And_Removed_Doubles_From_Filter_Dictionary(s);
-    return {s.FilterWords.begin(), s.FilterWords.begin() + s.FilterCount};
-  }
-};
-
 TEST(Resort_And_Removed_Doubles_From_Filter_Dictionary, CleansSortsAndDropsRepeats) {
-  Dictionary d;
+  Counter d;
   EXPECT_EQ(d.Rebuild("The, and\r\nof\r\nthe"), (Words{"and", "of", "the"}));
   EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "and\r\nof\r\nthe\r\n");
   Build_Filter_Words_Text(d.s);
@@ -213,7 +200,7 @@ TEST(Resort_And_Removed_Doubles_From_Filter_Dictionary, CleansSortsAndDropsRepea
 
 // CR-only line ends end entries too.
 TEST(Load_Word_Filter_Dictionary, ReadsListItemsAndSavesTheBox) {
-  Dictionary d;
+  Counter d;
   testing::WriteFile(d.folder.File("user.txt"), "cats and dogs\r\"x, y\",Zebra\r");
   d.s.Form.WordFiltersPage_WordDictionary = "unchanged";
   Load_Word_Filter_Dictionary(d.s, d.folder.File("missing.txt"), "");
