@@ -4,7 +4,6 @@
 #include "checks/page_checks.h"
 
 #include <gtest/gtest.h>
-#include <algorithm>
 #include <vector>
 
 #include "base/text.h"
@@ -144,29 +143,6 @@ TEST(CheckPage, EachRuleFiresOnItsPageAndNotOnTheNearMiss) {
     EXPECT_EQ(Fired(c.quiet).find(" " + c.rule + " "), std::string::npos)
         << c.rule << ": " << Fired(c.quiet);
   }
-}
-
-TEST(CheckPage, HeadEndedEarlyNamesTheElementAndEveryTagPutInTheBody) {
-  const std::string page =
-      "<html>\n<head>\n<title>Red Shoes for Walking</title>\n  Grüße und <b>mehr</b>\n"
-      "<meta name=\"Description\" content=\"x\"><link rel=\"canonical\" href=\"/a\">\n"
-      "<title>Second</title>\n</head>\n<body><meta name=\"author\" content=\"y\"></body>";
-  const PageCheck check = CheckPage(page, DefaultProfile());
-  const auto it = std::find_if(check.findings.begin(), check.findings.end(),
-                               [](const Finding& f) { return f.rule == Rule::HeadEndedEarly; });
-  ASSERT_NE(it, check.findings.end());
-  EXPECT_EQ(it->at.line, 4);
-  EXPECT_EQ(it->at.column, 3);
-  EXPECT_EQ(it->message,
-            "the head ends at text \"Grüße und\" on line 4, so browsers put these tags in the "
-            "body: <meta name=\"description\"> (line 5), <link rel=\"canonical\"> (line 5), "
-            "<title> (line 6), <meta name=\"author\"> (line 8)");
-  // The column counts characters: "<b>" stands after "Grüße und " on line 4.
-  const PageCheck moved = CheckPage("<p>Grüße<img src=x>", DefaultProfile());
-  const auto image = std::find_if(moved.findings.begin(), moved.findings.end(),
-                                  [](const Finding& f) { return f.rule == Rule::ImgAltMissing; });
-  ASSERT_NE(image, moved.findings.end());
-  EXPECT_EQ(image->at.column, 9);
 }
 
 TEST(CheckPage, MeasuresInThePagesCodecAfterDecodingReferences) {
