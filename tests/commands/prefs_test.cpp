@@ -155,8 +155,9 @@ TEST(SettingBoxes, EachClickCopiesItsBoxIntoItsSetting) {
       s.Form.*row.CheckBox = value;
       ASSERT_TRUE(Dispatch(s, row.Control));
       for (const state::Setting& other : state::Settings()) {
-        if (other.CheckBox)
+        if (other.CheckBox) {
           EXPECT_EQ(s.*other.Flag, s.Form.*other.CheckBox) << other.Control;
+        }
       }
     }
   }

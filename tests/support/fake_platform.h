@@ -29,9 +29,9 @@ class FakePlatform : public state::Platform {
   void AnswerSave(const std::string& path, int filterIndex = -1, const std::string& ext = "") {
     answers_.push_back({'S', path, filterIndex, ext});
   }
-  void CancelDialog() { answers_.push_back({'C'}); }
-  void AnswerYes() { answers_.push_back({'Y'}); }
-  void AnswerNo() { answers_.push_back({'N'}); }
+  void CancelDialog() { answers_.push_back({'C', "", -1, ""}); }
+  void AnswerYes() { answers_.push_back({'Y', "", -1, ""}); }
+  void AnswerNo() { answers_.push_back({'N', "", -1, ""}); }
 
   bool ShowOpen(state::FileDialog& dialog) override { return Dialog(dialog, 'O'); }
   bool ShowSave(state::FileDialog& dialog) override { return Dialog(dialog, 'S'); }
