@@ -187,7 +187,7 @@ TEST(WriteFileAtomic, StaleTemporariesOfKilledSavesAreRemovedByTheNextSave) {
   EXPECT_TRUE(fs::exists(dir.File(".page.html.zentrel-Fresh1")));
 }
 
-TEST(ReadWholeFile, ClearMessagesForMissingFilesAndFolders) {
+TEST(ReadWholeFile, ClearMessagesForMissingFilesFoldersAndFailedReads) {
   TempFolder dir;
   EXPECT_FALSE(FileExists(dir.File("missing")));
   EXPECT_TRUE(FileExists(dir.path().string()));  // a folder has attributes too
@@ -198,6 +198,13 @@ TEST(ReadWholeFile, ClearMessagesForMissingFilesAndFolders) {
     EXPECT_NE(std::string(e.what()).find("No such file"), std::string::npos);
   }
   EXPECT_THROW(ReadWholeFile(dir.path().string()), FileError);
+  // A read that fails once the file is open: the kernel refuses to read address 0.
+  try {
+    ReadWholeFile("/proc/self/mem");
+    FAIL();
+  } catch (const FileError& e) {
+    EXPECT_NE(std::string(e.what()).find("reading"), std::string::npos) << e.what();
+  }
 }
 
 TEST(ReadListItems, FollowsCommaDelimitedInput) {
