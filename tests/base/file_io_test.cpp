@@ -198,6 +198,11 @@ TEST(ReadWholeFile, ClearMessagesForMissingFilesFoldersAndFailedReads) {
     EXPECT_NE(std::string(e.what()).find("No such file"), std::string::npos);
   }
   EXPECT_THROW(ReadWholeFile(dir.path().string()), FileError);
+  // Every read closes what it opened.
+  WriteFile(dir.File("page.html"), "bytes");
+  const size_t open = testing::EntriesIn("/proc/self/fd");
+  EXPECT_EQ(ReadWholeFile(dir.File("page.html")), "bytes");
+  EXPECT_EQ(testing::EntriesIn("/proc/self/fd"), open);
   // A read that fails once the file is open: the kernel refuses to read address 0.
   try {
     ReadWholeFile("/proc/self/mem");
