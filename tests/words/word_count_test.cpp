@@ -105,7 +105,8 @@ TEST(Word_Count_Stripped_Text, EverySpellingKeptWholeAndCountedOnAfterASort) {
 
   // The dictionary stays countable after its sort moved the words.
   c.Count("dog cat cat ");
-  Add_Word_To_Dictionary(c.s, "dog");
+  c.s.WordMatchForceCase = 1;  // folded before it is looked up
+  Add_Word_To_Dictionary(c.s, "DOG");
   Add_Word_To_Dictionary(c.s, "eel");
   EXPECT_EQ(c.s.UniqueWordCount, 3);
   EXPECT_EQ(std::make_pair(c.s.UniqueWords[1], c.s.UniqueWordCounts[1]),
