@@ -138,6 +138,15 @@ TEST(CheckPage, EachRuleFiresOnItsPageAndNotOnTheNearMiss) {
        InHead("<meta name=\"rating\" content=\" Adult\"><meta name=\"author\" content=\"Ann\">")},
   };
   EXPECT_EQ(Fired(kClean), "");
+  // A page with no html element has its lang finding at its first byte.
+  int langs = 0;
+  for (const Finding& f : CheckPage("<p>x</p>", DefaultProfile()).findings) {
+    if (f.rule == Rule::LangMissing) {
+      ++langs;
+      EXPECT_EQ(f.at.line * 1000 + f.at.column, 1001);
+    }
+  }
+  EXPECT_EQ(langs, 1);
   for (const Case& c : cases) {
     EXPECT_NE(Fired(c.fires).find(" " + c.rule + " "), std::string::npos) << c.rule;
     EXPECT_EQ(Fired(c.quiet).find(" " + c.rule + " "), std::string::npos)

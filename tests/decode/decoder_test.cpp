@@ -140,6 +140,21 @@ TEST(HTML_Decode_Document, WordTextRules) {
   }
 }
 
+// The window repaints every 801 passes of the scan and while the decoder finishes.
+TEST(HTML_Decode_Document, LetsEventsRunEvery801PassesAndWhileFinishing) {
+  DecodeState d;
+  std::string page;
+  for (int i = 0; i < 1602; ++i)
+    page += "<i>";
+  d.Put(page);
+  const long before = d.platform.eventsRun;
+  HTML_ReScan_Document(d.s);
+  EXPECT_EQ(d.platform.eventsRun - before, 2);
+  d.Put(page + "<i>");
+  HTML_Decode_Document(d.s);
+  EXPECT_EQ(d.platform.eventsRun - before, 2 + 2 + 3);
+}
+
 TEST(MetaTagTable, ValuesByExactNameAndClearingTheRowsInUse) {
   DecodeState d;
   AppState& s = d.s;

@@ -67,6 +67,7 @@ TEST(Find_String_Filecache, IsCaseSensitiveAndMustEndBeforeTheLastByte) {
   Cache c;
   c.Put("<Head><head>end");
   EXPECT_EQ(Find_String_Filecache(c.s, "<head", 0), 6);
+  EXPECT_EQ(Find_String_Filecache(c.s, "", 0), -1);
   EXPECT_EQ(Find_String_Filecache(c.s, "<Head", 1), -1);
   EXPECT_EQ(Find_String_Filecache(c.s, "en", 0), 12);
   EXPECT_EQ(Find_String_Filecache(c.s, "end", 0), -1);
