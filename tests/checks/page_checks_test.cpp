@@ -147,6 +147,16 @@ TEST(CheckPage, EachRuleFiresOnItsPageAndNotOnTheNearMiss) {
     }
   }
   EXPECT_EQ(langs, 1);
+  // A title too wide is quoted, cut after 60 characters.
+  const std::string wide = "<title>" + std::string(80, 'W') + "</title>";
+  for (const Finding& f : CheckPage(wide, DefaultProfile()).findings) {
+    if (f.rule == Rule::TitleTooLong) {
+      EXPECT_EQ(f.message,
+                "the title is 1510 px wide at 20 px, over the 600 px a desktop result "
+                "shows: \"" +
+                    std::string(60, 'W') + "...\"");
+    }
+  }
   for (const Case& c : cases) {
     EXPECT_NE(Fired(c.fires).find(" " + c.rule + " "), std::string::npos) << c.rule;
     EXPECT_EQ(Fired(c.quiet).find(" " + c.rule + " "), std::string::npos)
@@ -159,9 +169,10 @@ TEST(CheckPage, MeasuresInThePagesCodecAfterDecodingReferences) {
   const auto title = [&profile](const std::string& text) {
     return CheckPage("<title>" + text + "</title>", profile).title->measured;
   };
-  const MeasuredText utf8 = title("Caf\xC3\xA9 &amp;\n\t&#x263a;&euro;&#128;&bogus; &#0;");
-  EXPECT_EQ(utf8.text, "Café & ☺€€&bogus; \xEF\xBF\xBD");
-  EXPECT_EQ(utf8.chars, 19);
+  const MeasuredText utf8 =
+      title("Caf\xC3\xA9 &amp;\n\t&#x263a;&#x100000;&euro;&#128;&bogus; &#0;");
+  EXPECT_EQ(utf8.text, "Café & ☺\xF4\x80\x80\x80€€&bogus; \xEF\xBF\xBD");
+  EXPECT_EQ(utf8.chars, 20);
   const MeasuredText cp1252 = title("Caf\xE9 \x80");  // not UTF-8: one character a byte
   EXPECT_EQ(cp1252.text, "Café €");
   EXPECT_EQ(cp1252.chars, 6);

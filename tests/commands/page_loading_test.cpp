@@ -51,7 +51,7 @@ TEST(Do_Load_File, LoadsTheChosenPageAndNewEmptiesIt) {
   t.Click("Mnu_File_new");
   EXPECT_EQ(t.s.DocumentLength, 0);
   EXPECT_EQ(t.s.Form.Html_Document_Editor + t.s.Form.ScanKeyWords_KeyWordMatches_TextBox +
-                t.s.Form.MetaTag_TextBox[0],
+                t.s.Form.ScanKeyWords_DocumentWordCount_TextBox + t.s.Form.MetaTag_TextBox[0],
             "");
   EXPECT_EQ(t.s.Form.Caption, "   Zentrel V1.62");
   EXPECT_EQ(t.s.RecentFileCount, 1);

@@ -71,6 +71,7 @@ TEST(EditWordFilters, MergeLoadAndSave) {
   p.Click("EditWordFilters_MergeDictionary");
   EXPECT_EQ(p.Filters(), (Words{"and", "ant", "the", "zebra"}));
   EXPECT_EQ(p.platform.dialogs.back().Filter, "(*.txt)|*.txt|");
+  EXPECT_EQ(p.platform.dialogs.back().FilterIndex, 1);
 
   const std::string mine = p.Write("mine.txt", "mine\r\nours\r\n");
   p.platform.AnswerOpen(mine);
