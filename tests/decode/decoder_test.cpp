@@ -153,6 +153,10 @@ TEST(HTML_Decode_Document, LetsEventsRunEvery801PassesAndWhileFinishing) {
   d.Put(page + "<i>");
   HTML_Decode_Document(d.s);
   EXPECT_EQ(d.platform.eventsRun - before, 2 + 2 + 3);
+  d.Put(page + std::string(page, 0, 799 * 3));  // 2401 tags
+  const long third = d.platform.eventsRun;
+  HTML_ReScan_Document(d.s);
+  EXPECT_EQ(d.platform.eventsRun - third, 2);  // every 801 passes, not every 800
 }
 
 TEST(MetaTagTable, ValuesByExactNameAndClearingTheRowsInUse) {
