@@ -1,12 +1,13 @@
 #include "analysis/analysis_driver.h"
 
-#include "analysis_fixture.h"
+#include "analysis/page_report.h"
 #include "commands/view_body_report.h"
+#include "started_program.h"
 
 namespace zentrel::analysis {
 namespace {
 
-using Analyser = testing::Analysis;
+using Analyser = testing::Started;
 
 std::string KeywordPage(const std::string& keywords) {
   return "<html><head><meta name=\"keywords\" content=\"" + keywords +
@@ -21,25 +22,13 @@ TEST(Meta_Tag_KeyWord_Scan, WholeReportsMatchTheHandCheckedFiles) {
             " 7 - shoes\r\n 3 - red shoes\r\n 2 - boots\r\n 0 - sandals\r\n ");
   EXPECT_EQ(a.s.Form.ScanKeyWords_KeyWordDensity_TextBox,
             " 29.1% - shoes\r\n 12.5% - red shoes\r\n 8.33% - boots\r\n 0.00% - sandals\r\n");
-  EXPECT_EQ(a.s.Form.ScanKeyWords_DocumentWordCount_TextBox.substr(0, 24),
-            " 4 - shoes\r\n 3 - Shoes\r\n");
-  EXPECT_EQ(a.s.Form.Body_Word_Count_Label, "Unique Word Count= 11");
-  EXPECT_EQ(a.s.Form.Body_Word_Count_label2, "Word Count= 24");
   EXPECT_EQ(a.s.Form.MetaTag_TextBox[3], "shoes, red shoes, boots, sandals");
   commands::ViewBody_Show(a.s);
   EXPECT_EQ(a.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox.substr(0, 12), "Red, Shoes, ");
 
   a.File("analysis_widgets.html");  // duplicates reported and removed
   EXPECT_EQ(a.s.Form.ReportTextBox, testing::ReadTestData("analysis_widgets_defaults.report"));
-
-  // A typed filter word, the text scan, low-match removal and the word list.
-  a.s.KeywordsMatchScanType = 0;
-  a.s.UsersKeywordsText = "Sprockets, the ,";
-  a.s.ReportExportWordCount = 1;
-  a.s.Form.KeyWords_MinKeyWordMatches_Option = 1;
-  a.s.Form.KeyWords_MinKeyWordMatches_DropDown.Text = " 1 Match";
-  a.File("analysis_widgets.html");
-  EXPECT_EQ(a.s.Form.ReportTextBox, testing::ReadTestData("analysis_widgets.report"));
+  // The other settings' golden report is the command line's.
 }
 
 TEST(Meta_Tag_KeyWord_Scan, KeywordCountAndLengthWarningsAtTheirBoundaries) {
@@ -49,14 +38,11 @@ TEST(Meta_Tag_KeyWord_Scan, KeywordCountAndLengthWarningsAtTheirBoundaries) {
   EXPECT_FALSE(a.Has("-= KeyWord Density =-"));
   EXPECT_EQ(a.s.Form.ScanKeyWords_KeyWordMatches_TextBox, " ");
 
-  struct Case {
-    std::string keywords, line;
-  };
   std::string twenty = "k0";
   for (int i = 1; i < 20; ++i)
     twenty += ", k" + std::to_string(i);
   // One keyword with no match: K = length(" 0 - " + keyword) + 2.
-  const Case cases[] = {
+  const std::pair<std::string, std::string> cases[] = {
       {twenty, "Number of KeyWords: 20"},
       {twenty + ", k20", "Number of KeyWords: 21 *** WARNING *** Document Has OVER 20 Keywords"},
       {std::string(248, 'q'), "KeyWord Characters Length: 255 Characters"},
@@ -64,10 +50,9 @@ TEST(Meta_Tag_KeyWord_Scan, KeywordCountAndLengthWarningsAtTheirBoundaries) {
        "KeyWord Characters Length: 256 Characters *** WARNING *** KeyWORD total length exceed "
        "256 Characters"},
   };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.line);
-    a.Page(KeywordPage(c.keywords));
-    EXPECT_TRUE(a.Has(c.line));
+  for (const auto& [keywords, line] : cases) {
+    a.Page(KeywordPage(keywords));
+    EXPECT_TRUE(a.Has(line)) << line;
   }
 }
 
@@ -127,6 +112,32 @@ TEST(Meta_Tag_KeyWord_Scan, RunTimeErrorsEndOneAnalysisOnly) {
   EXPECT_THROW(a.Page(KeywordPage(many)), RunTimeError);
   commands::ViewBody_Show(a.s);
   EXPECT_EQ(a.s.Form.ScanKeyWords_StrippedHTMLDocument_TextBox.substr(0, 12), "Red, Shoes, ");
+}
+
+// Odd and even lengths are centred in the report golden files; these are the edges.
+TEST(Report_Center, HalvesGoToTheEvenNeighbour) {
+  const std::pair<size_t, int32_t> pads[] = {{0, 37}, {75, 0}, {77, 0}};
+  for (const auto& [length, pad] : pads)
+    EXPECT_EQ(Report_Center_Pad(length), pad) << length;
+  testing::Started w;
+  Reset_Report(w.s);
+  Report_Center(w.s, std::string(80, 'x'));
+  Report_Center(w.s, "abc");
+  EXPECT_EQ(Report_Text(w.s), std::string(80, 'x') + "\r\n" + std::string(36, ' ') + "abc\r\n ");
+}
+
+// Lines past the buffer's end, one longer than a growth step and one longer than all before
+// it, land whole.
+TEST(Report, GrowsTheBufferAndLosesNothing) {
+  testing::Started w;
+  Reset_Report(w.s);
+  std::string expected;
+  for (const std::string& line : {std::string(98, 'r'), std::string(99000, 'L'),
+                                  std::string(60000, 'M'), std::string(200000, 'H')}) {
+    Report(w.s, line);
+    expected += line + "\r\n";
+  }
+  EXPECT_EQ(Report_Text(w.s), expected + " ");
 }
 
 }  // namespace

@@ -1,17 +1,17 @@
 #include "analysis/keyword_list.h"
 
-#include "analysis_fixture.h"
 #include "decode/meta_tag_table.h"
+#include "started_program.h"
 
 namespace zentrel::analysis {
 namespace {
 
 using Strings = std::vector<std::string>;
 
-struct Keywords : testing::Analysis {
+struct Keywords : testing::Started {
   explicit Keywords(const Strings& list = {}, const std::vector<int16_t>& matches = {}) {
     s.FilterWordsText = " and the  ";
-    testing::Analysis::Keywords(list, matches);
+    testing::Started::Keywords(list, matches);
   }
 };
 
@@ -20,12 +20,12 @@ TEST(Add_Pages_MetaTag_keywords, EmptyPartsAndLoneCommasAreNeverAdded) {
   Keywords k;
   decode::Set_MetaTag_Value(k.s, "keywords", "a, b,, the,");
   Add_Pages_MetaTag_keywords(k.s);
-  EXPECT_EQ(k.List(), (Strings{"a", "b", "the"}));
+  EXPECT_EQ(k.Keys(), (Strings{"a", "b", "the"}));
   EXPECT_EQ(k.s.KeywordSplitCount, 4);
 
   k.s.UsersKeywordsText = "  Widgets, the ,and the, the and,";
   Add_Users_Hand_Selected_Keywords_to_Pages_keywords(k.s);
-  EXPECT_EQ(k.List(), (Strings{"a", "b", "the", "Widgets", "the and"}));
+  EXPECT_EQ(k.Keys(), (Strings{"a", "b", "the", "Widgets", "the and"}));
   EXPECT_EQ(k.s.UsersKeywordsText, "Widgets, the ,and the, the and");
 }
 
@@ -38,14 +38,14 @@ TEST(Check_Keywords_For_Doubles, ExactComparisonAndTheTextOfBlankedCopies) {
   EXPECT_EQ(k.s.KeywordDoublesText, "x\r\nx\r\n\r\n");
   k.s.KeywordTitleMatches[1] = 9;
   Remove_Keyword_Doubles(k.s);
-  EXPECT_EQ(k.List(), (Strings{"x", "y"}));
+  EXPECT_EQ(k.Keys(), (Strings{"x", "y"}));
   EXPECT_EQ(k.s.KeywordBodyMatches[1], 2);
   EXPECT_EQ(k.s.KeywordTitleMatches[1], 9);  // title matches keep their places
 
   Keywords kept({"x", "x"});
   kept.s.KeywordsRemoveDoubles = 0;
   EXPECT_EQ(Check_Keywords_For_Doubles(kept.s), 1);
-  EXPECT_EQ(kept.List(), (Strings{"x", "x"}));
+  EXPECT_EQ(kept.Keys(), (Strings{"x", "x"}));
 }
 
 TEST(Remove_Keyword_With_Low_Match_Counts, ThresholdFromTheDropDownText) {
@@ -67,7 +67,7 @@ TEST(Remove_Keyword_With_Low_Match_Counts, ThresholdFromTheDropDownText) {
     k.s.Form.KeyWords_MinKeyWordMatches_Option = c.option;
     k.s.Form.KeyWords_MinKeyWordMatches_DropDown.Text = c.choice;
     Remove_Keyword_With_Low_Match_Counts(k.s);
-    EXPECT_EQ(k.List(), c.left);
+    EXPECT_EQ(k.Keys(), c.left);
   }
 }
 
@@ -75,26 +75,17 @@ TEST(Sort_Page_KeyWord_Strings, MostMatchesFirstAndEqualCountsReversed) {
   Keywords k({"a", "b", "c", "d"}, {2, 5, 2, 5});
   k.s.KeywordTitleMatches[0] = 7;
   Sort_Page_KeyWord_Strings(k.s);
-  EXPECT_EQ(k.List(), (Strings{"d", "b", "c", "a"}));
+  EXPECT_EQ(k.Keys(), (Strings{"d", "b", "c", "a"}));
   EXPECT_EQ(k.s.KeywordTitleMatches[0], 7);  // not moved
 
   k.s.KeywordsSortList = 0;
   k.s.KeywordBodyMatches[3] = 9;
   Sort_Page_KeyWord_Strings(k.s);
-  EXPECT_EQ(k.List(), (Strings{"d", "b", "c", "a"}));
+  EXPECT_EQ(k.Keys(), (Strings{"d", "b", "c", "a"}));
 
   k.s.KeywordsSortList = 1;
   k.s.KeywordBodyMatches[2] = 5001;
   EXPECT_THROW(Sort_Page_KeyWord_Strings(k.s), RunTimeError);
-}
-
-TEST(Add_Word_To_KeyWord_buffer, GrowsByTwoHundredKeepingContents) {
-  Keywords k;
-  for (int i = 0; i < 501; ++i)
-    Add_Word_To_KeyWord_buffer(k.s, " kw" + std::to_string(i) + " ");
-  EXPECT_EQ(k.s.KeywordCapacity, 700);
-  EXPECT_EQ(k.List().front(), "kw0");
-  EXPECT_EQ(k.List().back(), "kw500");
 }
 
 }  // namespace

@@ -3,8 +3,8 @@
 #include <random>
 #include <sstream>
 
-#include "analysis_fixture.h"
 #include "base/text.h"
+#include "started_program.h"
 #include "words/word_extraction.h"
 
 namespace zentrel::analysis {
@@ -12,35 +12,16 @@ namespace {
 
 using Counts = std::vector<int16_t>;
 
-struct Matching : testing::Analysis {
+struct Matching : testing::Started {
   Matching(const std::vector<std::string>& keywords, const std::vector<std::string>& words) {
     Keywords(keywords);
-    Words(words);
+    PageWords(words);
   }
   Counts Body() {
     Tally_Current_Documents_Keyword_Matches(s);
     return {s.KeywordBodyMatches.begin(), s.KeywordBodyMatches.begin() + s.KeywordCount};
   }
 };
-
-TEST(Tally_Current_Documents_Keyword_Matches, TextScanCountsEverywhereInTheSource) {
-  Matching m({"shoe", "keywords", "ana"}, {"Shoes", "and", "SHOESTRING", "banana"});
-  m.s.KeywordsMatchScanType = 0;
-  m.s.DocumentText =
-      "<meta name=\"keywords\" content=\"shoe\"><body>Shoes and a SHOESTRING, banana</body>";
-  EXPECT_EQ(m.Body(), (Counts{3, 1, 2}));
-
-  // Counts add to what the keyword already had; the part-match setting changes nothing.
-  m.s.KeywordsForceSameCase = 0;
-  m.s.KeywordsDisablePartMatches = 0;
-  EXPECT_EQ(m.Body(), (Counts{4, 2, 4}));
-}
-
-// A phrase whose first word is the document's last word gives no match.
-TEST(Tally_Current_Documents_Keyword_Matches, WordScanPhraseAtTheEnd) {
-  Matching last({"blue cat", "cat"}, {"cat", "blue"});
-  EXPECT_EQ(last.Body(), (Counts{0, 1}));
-}
 
 // The tallies as their steps read: repeated searches from one past the last hit, and a
 // word-by-word comparison at every position up to one past the last word.
@@ -99,7 +80,7 @@ TEST(Tally_Current_Documents_Keyword_Matches, EqualsTheLiteralStepsOnRandomInput
     m.Keywords({});
     std::copy(keywords.begin(), keywords.end(), m.s.KeywordList.begin());  // blanks included
     m.s.KeywordCount = static_cast<int16_t>(keywords.size());
-    m.Words(page);
+    m.PageWords(page);
     m.s.TitleText = big ? random_text("ab", 200) : random_text("aAb ", 40);
     m.s.DocumentText = big ? random_text("ab", 200) : random_text("aAb<", 60);
     auto fold = [upper](const std::string& t) { return upper ? text::UCase(t) : t; };

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <sys/sysmacros.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -10,6 +9,7 @@
 #include <cstring>
 #include <filesystem>
 
+#include "full_disk.h"
 #include "test_files.h"
 
 namespace zentrel::file_io {
@@ -21,26 +21,18 @@ using testing::WriteFile;
 
 namespace {
 
-// Fails one chosen system call with a chosen errno.
+// Fails one chosen system call with a chosen errno; or makes the first write short (one byte)
+// or interrupted, and the later ones whole.
 class FailingFileSystem : public FileSystem {
  public:
   enum Step { kMakeTemp, kWrite, kShortWrite, kInterrupted, kFsync, kClose, kRename, kReadOnly };
   FailingFileSystem(Step step, int err) : step_(step), err_(err) {}
   int MakeTemp(std::string& t) override { return Fail(kMakeTemp) ? -1 : FileSystem::MakeTemp(t); }
   ssize_t Write(int fd, const char* d, size_t n) override {
-    if (step_ == kShortWrite) {  // one byte goes through, then the disk is full
-      if (wrote_) {
-        Fail(kShortWrite);  // sets errno
-        return -1;
-      }
-      wrote_ = true;
+    if (writes_++ == 0 && step_ == kShortWrite)
       return FileSystem::Write(fd, d, 1);
-    }
-    if (step_ == kInterrupted && !wrote_) {  // a signal before anything was written
-      wrote_ = true;
-      errno = EINTR;
+    if (writes_ == 1 && Fail(kInterrupted))
       return -1;
-    }
     return Fail(kWrite) ? -1 : FileSystem::Write(fd, d, n);
   }
   int CheckWritable(const std::string& p) override {
@@ -48,11 +40,8 @@ class FailingFileSystem : public FileSystem {
   }
   int Fsync(int fd) override { return Fail(kFsync) ? -1 : FileSystem::Fsync(fd); }
   int Close(int fd) override {
-    if (Fail(kClose)) {
-      FileSystem::Close(fd);
-      return -1;
-    }
-    return FileSystem::Close(fd);
+    const int closed = FileSystem::Close(fd);
+    return Fail(kClose) ? -1 : closed;
   }
   int Rename(const std::string& a, const std::string& b) override {
     return Fail(kRename) ? -1 : FileSystem::Rename(a, b);
@@ -67,26 +56,28 @@ class FailingFileSystem : public FileSystem {
   }
   Step step_;
   int err_;
-  bool wrote_ = false;
+  int writes_ = 0;
 };
-
-size_t FilesIn(const fs::path& dir) {
-  return static_cast<size_t>(std::distance(fs::directory_iterator(dir), fs::directory_iterator()));
-}
 
 }  // namespace
 
-TEST(WriteFileAtomic, ReplacesTheFileKeepingItsModeAndWhenRootItsOwner) {
+// The file is replaced with its mode (and, for root, its owner) kept, through a chain of
+// symbolic links, and under a name as long as the folder allows.
+TEST(WriteFileAtomic, ReplacesTheFileKeepingItsModeOwnerAndLinks) {
   TempFolder dir;
-  std::string page = dir.File("page.html");
+  std::string page = dir.File(std::string(250, 'p') + ".html");
   WriteFile(page, "old");
   const bool root = ::geteuid() == 0;
   if (root) {
     ASSERT_EQ(::chown(page.c_str(), 4321, 4322), 0);
   }
   ::chmod(page.c_str(), 02750);  // set-group: lost if the owner were set after the mode
+  fs::create_symlink(fs::path(page).filename(), dir.File("link.html"));  // relative
+  fs::create_symlink(dir.File("link.html"), dir.File("outer.html"));
   WriteFileAtomic(page, "new bytes");
-  EXPECT_EQ(ReadFile(page), "new bytes");
+  WriteFileAtomic(dir.File("outer.html"), "through the links");
+  EXPECT_EQ(ReadFile(page), "through the links");
+  EXPECT_TRUE(fs::is_symlink(dir.File("outer.html")) && fs::is_symlink(dir.File("link.html")));
   struct stat st {};
   ::stat(page.c_str(), &st);
   EXPECT_EQ(st.st_mode & 07777, 02750u);
@@ -94,7 +85,7 @@ TEST(WriteFileAtomic, ReplacesTheFileKeepingItsModeAndWhenRootItsOwner) {
     EXPECT_EQ(st.st_uid, 4321u);
     EXPECT_EQ(st.st_gid, 4322u);
   }
-  EXPECT_EQ(FilesIn(dir.path()), 1u);
+  EXPECT_EQ(testing::EntriesIn(dir.path()), 3u);
 }
 
 TEST(WriteFileAtomic, OnlyRegularFilesAreReplaced) {
@@ -110,11 +101,7 @@ TEST(WriteFileAtomic, OnlyRegularFilesAreReplaced) {
                                                               {"dangling", "missing"},
                                                               {"loop", "loop"},
                                                               {"to-fifo", "links to a FIFO"}};
-  if (::geteuid() == 0) {  // a device node with the numbers of the null device
-    ASSERT_EQ(::mknod(dir.File("device").c_str(), S_IFCHR | 0666, makedev(1, 3)), 0);
-    targets.emplace_back("device", "device");
-  }
-  const size_t files = FilesIn(dir.path());
+  const size_t files = testing::EntriesIn(dir.path());
   for (const auto& [name, kind] : targets) {
     const std::string path = dir.File(name);
     struct stat before {
@@ -132,16 +119,7 @@ TEST(WriteFileAtomic, OnlyRegularFilesAreReplaced) {
     EXPECT_EQ(after.st_ino, before.st_ino) << name;
     EXPECT_EQ(after.st_mode, before.st_mode) << name;
   }
-  EXPECT_EQ(FilesIn(dir.path()), files) << "a temporary file was left behind";
-}
-
-TEST(WriteFileAtomic, NamesAsLongAsTheFolderAllowsCanBeSaved) {
-  TempFolder dir;
-  const std::string page = dir.File(std::string(250, 'p') + ".html");
-  WriteFileAtomic(page, "first");
-  WriteFileAtomic(page, "second");
-  EXPECT_EQ(ReadFile(page), "second");
-  EXPECT_EQ(FilesIn(dir.path()), 1u);
+  EXPECT_EQ(testing::EntriesIn(dir.path()), files) << "a temporary file was left behind";
 }
 
 TEST(WriteFileAtomic, EveryFailingStepLeavesTheOldFileAndNoTemporary) {
@@ -153,7 +131,6 @@ TEST(WriteFileAtomic, EveryFailingStepLeavesTheOldFileAndNoTemporary) {
   const Case cases[] = {{FailingFileSystem::kMakeTemp, EACCES, "creating a temporary file"},
                         {FailingFileSystem::kWrite, ENOSPC, "writing"},
                         {FailingFileSystem::kWrite, EIO, "writing"},
-                        {FailingFileSystem::kShortWrite, ENOSPC, "writing"},
                         {FailingFileSystem::kFsync, EIO, "flushing"},
                         {FailingFileSystem::kClose, EIO, "closing"},
                         {FailingFileSystem::kRename, EXDEV, "renaming"},
@@ -173,18 +150,20 @@ TEST(WriteFileAtomic, EveryFailingStepLeavesTheOldFileAndNoTemporary) {
       EXPECT_NE(message.find(std::strerror(c.err)), std::string::npos) << message;
     }
     EXPECT_EQ(ReadFile(page), "the author's page");
-    EXPECT_EQ(FilesIn(dir.path()), 1u) << "a temporary file was left behind";
+    EXPECT_EQ(testing::EntriesIn(dir.path()), 1u) << "a temporary file was left behind";
   }
 }
 
-TEST(WriteFileAtomic, InterruptedWriteIsRetried) {
+// The writer goes on after a short write and after an interrupted one.
+TEST(WriteFileAtomic, ShortAndInterruptedWritesAreContinued) {
   TempFolder dir;
   std::string page = dir.File("page.html");
-  WriteFile(page, "old");
-  FailingFileSystem interrupted(FailingFileSystem::kInterrupted, EINTR);
-  WriteFileAtomic(page, "all of the new bytes", interrupted);
-  EXPECT_EQ(ReadFile(page), "all of the new bytes");
-  EXPECT_EQ(FilesIn(dir.path()), 1u);
+  for (auto step : {FailingFileSystem::kShortWrite, FailingFileSystem::kInterrupted}) {
+    FailingFileSystem first(step, EINTR);
+    WriteFileAtomic(page, "all of the new bytes " + std::to_string(step), first);
+    EXPECT_EQ(ReadFile(page), "all of the new bytes " + std::to_string(step));
+  }
+  EXPECT_EQ(testing::EntriesIn(dir.path()), 1u);
 }
 
 TEST(WriteFileAtomic, StaleTemporariesOfKilledSavesAreRemovedByTheNextSave) {
@@ -208,31 +187,7 @@ TEST(WriteFileAtomic, StaleTemporariesOfKilledSavesAreRemovedByTheNextSave) {
   EXPECT_TRUE(fs::exists(dir.File(".page.html.zentrel-Fresh1")));
 }
 
-TEST(WriteFileAtomic, AChainOfSymbolicLinksIsKept) {
-  TempFolder dir;
-  std::string real = dir.File("real.html");
-  WriteFile(real, "old");
-  fs::create_symlink("real.html", dir.File("link.html"));  // relative to its own folder
-  fs::create_symlink(dir.File("link.html"), dir.File("outer.html"));
-  WriteFileAtomic(dir.File("outer.html"), "through the links");
-  EXPECT_TRUE(fs::is_symlink(dir.File("outer.html")) && fs::is_symlink(dir.File("link.html")));
-  EXPECT_EQ(ReadFile(real), "through the links");
-  EXPECT_EQ(FilesIn(dir.path()), 3u);
-}
-
-TEST(WriteFileAtomic, ReadOnlyFolderFailsCleanly) {
-  if (::geteuid() == 0)
-    GTEST_SKIP() << "root ignores folder permissions";
-  TempFolder dir;
-  std::string page = dir.File("page.html");
-  WriteFile(page, "old");
-  fs::permissions(dir.path(), fs::perms::owner_read | fs::perms::owner_exec);
-  EXPECT_THROW(WriteFileAtomic(page, "new"), FileError);
-  fs::permissions(dir.path(), fs::perms::owner_all);
-  EXPECT_EQ(ReadFile(page), "old");
-}
-
-TEST(ReadWholeFile, ClearMessagesForMissingFilesAndFolders) {
+TEST(ReadWholeFile, ClearMessagesForMissingFilesFoldersAndFailedReads) {
   TempFolder dir;
   EXPECT_FALSE(FileExists(dir.File("missing")));
   EXPECT_TRUE(FileExists(dir.path().string()));  // a folder has attributes too
@@ -243,6 +198,18 @@ TEST(ReadWholeFile, ClearMessagesForMissingFilesAndFolders) {
     EXPECT_NE(std::string(e.what()).find("No such file"), std::string::npos);
   }
   EXPECT_THROW(ReadWholeFile(dir.path().string()), FileError);
+  // Every read closes what it opened.
+  WriteFile(dir.File("page.html"), "bytes");
+  const size_t open = testing::EntriesIn("/proc/self/fd");
+  EXPECT_EQ(ReadWholeFile(dir.File("page.html")), "bytes");
+  EXPECT_EQ(testing::EntriesIn("/proc/self/fd"), open);
+  // A read that fails once the file is open: the kernel refuses to read address 0.
+  try {
+    ReadWholeFile("/proc/self/mem");
+    FAIL();
+  } catch (const FileError& e) {
+    EXPECT_NE(std::string(e.what()).find("reading"), std::string::npos) << e.what();
+  }
 }
 
 TEST(ReadListItems, FollowsCommaDelimitedInput) {
@@ -252,7 +219,7 @@ TEST(ReadListItems, FollowsCommaDelimitedInput) {
     ReadListItems(content, [&all](std::string_view item) { all.emplace_back(item); });
     return all;
   };
-  EXPECT_EQ(items("a, b\r\n  c d \nx"), (V{"a", "b", "c d", "x"}));
+  EXPECT_EQ(items("a, b\r\n  c d \nx\ry\r\rz"), (V{"a", "b", "c d", "x", "y", "", "z"}));
   EXPECT_EQ(items("\"quoted, with comma\" rest,next\r\n"), (V{"quoted, with comma", "next"}));
   EXPECT_EQ(items("FileLoaded:C:\\a,b.html\r\n"), (V{"FileLoaded:C:\\a", "b.html"}));
   EXPECT_EQ(items(""), V{});

@@ -4,12 +4,12 @@
 #include "checks/page_checks.h"
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
 #include <vector>
 
 #include "base/text.h"
+#include "checks/profile.h"
 #include "checks/site_checks.h"
+#include "test_files.h"
 
 namespace zentrel::checks {
 
@@ -138,6 +138,25 @@ TEST(CheckPage, EachRuleFiresOnItsPageAndNotOnTheNearMiss) {
        InHead("<meta name=\"rating\" content=\" Adult\"><meta name=\"author\" content=\"Ann\">")},
   };
   EXPECT_EQ(Fired(kClean), "");
+  // A page with no html element has its lang finding at its first byte.
+  int langs = 0;
+  for (const Finding& f : CheckPage("<p>x</p>", DefaultProfile()).findings) {
+    if (f.rule == Rule::LangMissing) {
+      ++langs;
+      EXPECT_EQ(f.at.line * 1000 + f.at.column, 1001);
+    }
+  }
+  EXPECT_EQ(langs, 1);
+  // A title too wide is quoted, cut after 60 characters.
+  const std::string wide = "<title>" + std::string(80, 'W') + "</title>";
+  for (const Finding& f : CheckPage(wide, DefaultProfile()).findings) {
+    if (f.rule == Rule::TitleTooLong) {
+      EXPECT_EQ(f.message,
+                "the title is 1510 px wide at 20 px, over the 600 px a desktop result "
+                "shows: \"" +
+                    std::string(60, 'W') + "...\"");
+    }
+  }
   for (const Case& c : cases) {
     EXPECT_NE(Fired(c.fires).find(" " + c.rule + " "), std::string::npos) << c.rule;
     EXPECT_EQ(Fired(c.quiet).find(" " + c.rule + " "), std::string::npos)
@@ -145,66 +164,21 @@ TEST(CheckPage, EachRuleFiresOnItsPageAndNotOnTheNearMiss) {
   }
 }
 
-TEST(CheckPage, HeadEndedEarlyNamesTheElementAndEveryTagPutInTheBody) {
-  const std::string page =
-      "<html>\n<head>\n<title>Red Shoes for Walking</title>\n  Grüße und <b>mehr</b>\n"
-      "<meta name=\"Description\" content=\"x\"><link rel=\"canonical\" href=\"/a\">\n"
-      "<title>Second</title>\n</head>\n<body><meta name=\"author\" content=\"y\"></body>";
-  const PageCheck check = CheckPage(page, DefaultProfile());
-  const auto it = std::find_if(check.findings.begin(), check.findings.end(),
-                               [](const Finding& f) { return f.rule == Rule::HeadEndedEarly; });
-  ASSERT_NE(it, check.findings.end());
-  EXPECT_EQ(it->at.line, 4);
-  EXPECT_EQ(it->at.column, 3);
-  EXPECT_EQ(it->message,
-            "the head ends at text \"Grüße und\" on line 4, so browsers put these tags in the "
-            "body: <meta name=\"description\"> (line 5), <link rel=\"canonical\"> (line 5), "
-            "<title> (line 6), <meta name=\"author\"> (line 8)");
-  // The column counts characters: "<b>" stands after "Grüße und " on line 4.
-  const PageCheck moved = CheckPage("<p>Grüße<img src=x>", DefaultProfile());
-  const auto image = std::find_if(moved.findings.begin(), moved.findings.end(),
-                                  [](const Finding& f) { return f.rule == Rule::ImgAltMissing; });
-  ASSERT_NE(image, moved.findings.end());
-  EXPECT_EQ(image->at.column, 9);
-}
-
 TEST(CheckPage, MeasuresInThePagesCodecAfterDecodingReferences) {
   const Profile profile = DefaultProfile();
   const auto title = [&profile](const std::string& text) {
     return CheckPage("<title>" + text + "</title>", profile).title->measured;
   };
-  const MeasuredText utf8 = title("Caf\xC3\xA9 &amp;\n\t&#x263a;&euro;&#128;&bogus; &#0;");
-  EXPECT_EQ(utf8.text, "Café & ☺€€&bogus; \xEF\xBF\xBD");
-  EXPECT_EQ(utf8.chars, 19);
+  const MeasuredText utf8 =
+      title("Caf\xC3\xA9 &amp;\n\t&#x263a;&#x100000;&euro;&#128;&bogus; &#0;");
+  EXPECT_EQ(utf8.text, "Café & ☺\xF4\x80\x80\x80€€&bogus; \xEF\xBF\xBD");
+  EXPECT_EQ(utf8.chars, 20);
   const MeasuredText cp1252 = title("Caf\xE9 \x80");  // not UTF-8: one character a byte
   EXPECT_EQ(cp1252.text, "Café €");
   EXPECT_EQ(cp1252.chars, 6);
   // Liberation Sans advances at 20 px: "W" 1933 and "i" 455 of 2048 units.
   EXPECT_EQ(title("WWWi").pixels, 61);
   EXPECT_FALSE(CheckPage("<p>no title</p>", profile).title.has_value());
-}
-
-TEST(CheckPage, AnyBytesGiveFindingsAndNoCrash) {
-  const std::string inputs[] = {"",
-                                "<",
-                                "<<<<",
-                                "</",
-                                "<!--",
-                                "<title>",
-                                "<a href='x",
-                                "<meta name=robots content=,,:,>",
-                                "<svg><title><![CDATA[</svg>",
-                                "<plaintext><title>x</title>",
-                                std::string("\0\xFF\xFE<ti\0tle>\x80</title>", 20),
-                                std::string(100000, '<') + "<title>x"};
-  for (const std::string& page : inputs) {
-    const PageCheck check = CheckPage(page, DefaultProfile());
-    EXPECT_FALSE(check.findings.empty()) << page.substr(0, 40);
-    for (const Finding& f : check.findings) {
-      EXPECT_GE(f.at.line, 1);
-      EXPECT_GE(f.at.column, 1);
-    }
-  }
 }
 
 TEST(CheckSite, PagesSharingATitleOrDescriptionAreGroupedInPageOrder) {
@@ -219,6 +193,47 @@ TEST(CheckSite, PagesSharingATitleOrDescriptionAreGroupedInPageOrder) {
   EXPECT_EQ(site[0].message, "2 pages share the title \"Red Shoes for Walking and Running\"");
   EXPECT_EQ(site[1].rule, Rule::DescriptionDuplicate);
   EXPECT_EQ(site[1].pages, (std::vector<size_t>{0, 1, 3}));
+}
+
+TEST(Profile, TheShippedProfileHoldsEveryDefault) {
+  // The tests run in the program folder, where the shipped profile lies.
+  EXPECT_EQ(LoadProfile(DefaultProfilePath(".")), DefaultProfile());
+}
+
+TEST(Profile, KeysOverrideTheDefaultsAndTheRestStay) {
+  const Profile p = ParseProfile(
+      "# mine\r\n\n  title-too-long = error  # stricter\nh1-missing=off\r\n"
+      "title.max-pixels = 580\ndescription.min-chars=0",
+      "mine.txt");
+  Profile expected = DefaultProfile();
+  expected.rules[static_cast<size_t>(Rule::TitleTooLong)] = {true, Severity::Error};
+  expected.rules[static_cast<size_t>(Rule::H1Missing)].enabled = false;
+  expected.titleMaxPixels = 580;
+  expected.descriptionMinChars = 0;
+  EXPECT_EQ(p, expected);
+}
+
+TEST(Profile, BadLinesAreRefusedWithTheFileAndLine) {
+  const std::pair<const char*, const char*> bad[] = {
+      {"title-missing = error\ntitle-mising = error", "p.txt:2: unknown key \"title-mising\""},
+      {"h1-missing = fatal", "p.txt:1: \"fatal\" is no severity"},
+      {"title.max-pixels = 60O", "p.txt:1: title.max-pixels must be a whole number from 1"},
+      {"title.font-pixels = 0", "p.txt:1: title.font-pixels must be a whole number"},
+      {"charset.max-bytes = 99999999999999", "p.txt:1: charset.max-bytes must be"},
+      {"\nlegacy-meta", "p.txt:2: expected \"key = value\""},
+      {"og-missing = off\nog-missing = notice", "p.txt:2: \"og-missing\" is given twice"},
+  };
+  for (const auto& [text, message] : bad) {
+    try {
+      ParseProfile(text, "p.txt");
+      ADD_FAILURE() << text;
+    } catch (const ProfileError& e) {
+      EXPECT_EQ(std::string(e.what()).rfind(message, 0), 0u) << e.what();
+    }
+  }
+  testing::TempFolder folder;
+  EXPECT_THROW(LoadProfile(folder.File("missing.txt")), ProfileError);
+  EXPECT_THROW(LoadProfile(folder.path().string()), ProfileError);
 }
 
 }  // namespace

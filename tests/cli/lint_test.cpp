@@ -79,6 +79,9 @@ TEST(Lint, ExitStatusFollowsTheProfileAndUsageErrorsAreTwo) {
   testing::WriteFile(broken, "title.max-pixels = wide\n");
   const std::vector<std::string> usage[] = {
       {}, {"--jobs", "0", page}, {"--format", "xml", page}, {"--jobs"}, {"--prefs", "x", page}};
+  const Lint help = RunLint({"--help"}, false);
+  EXPECT_EQ(help.status, 0);
+  EXPECT_EQ(help.out.rfind("usage: zentrel-cli lint", 0), 0u);
   for (const std::vector<std::string>& args : usage) {
     const Lint r = RunLint(args, false);
     EXPECT_EQ(r.status, 2) << r.err;

@@ -2,60 +2,38 @@
 
 #include "commands/prefs.h"
 
-#include <gtest/gtest.h>
-
 #include "base/text.h"
-#include "commands/control_table.h"
-#include "commands/startup.h"
-#include "fake_platform.h"
 #include "full_disk.h"
-#include "shell_program_folder.h"
-#include "state/app_state.h"
-#include "test_files.h"
+#include "started_program.h"
+#include "state/settings.h"
 #include "words/filter_dictionary.h"
 
 namespace zentrel::commands {
 namespace {
 
 using testing::ReadFile;
-using testing::WriteFile;
 using Words = std::vector<std::string>;
 
-struct Prefs {
-  testing::ShellProgramFolder folder;
-  testing::FakePlatform platform{folder.Path()};
-  AppState s{platform};
-  std::string standard;
+struct Prefs : testing::Started {
+  using Started::Started;
+  std::string standard = words::Standard_Dictionary_Path(s);
 
-  Prefs() {
-    commands::Form_Load(s);
-    standard = words::Standard_Dictionary_Path(s);
-  }
-  Words List() const { return {s.FilterWords.begin(), s.FilterWords.begin() + s.FilterCount}; }
-  void Click(const char* name) { ASSERT_TRUE(commands::Dispatch(s, name)); }
+  Words Filters() const { return {s.FilterWords.begin(), s.FilterWords.begin() + s.FilterCount}; }
   // Sets the dictionary box and rebuilds the list from it.
   void Use(const std::string& box) {
     s.Form.WordFiltersPage_WordDictionary = box;
     Click("EditWordFilters_ResortUpdateFilters");
   }
-  std::string File(const std::string& name, const std::string& bytes) {
-    WriteFile(folder.File(name), bytes);
-    return folder.File(name);
-  }
 };
 
 TEST(EditWordFilters, QuestionsAskedAndNoChangesNothing) {
-  struct Case {
-    const char* button;
-    const char* question;
-  };
-  const Case cases[] = {
+  const std::pair<const char*, const char*> cases[] = {
       {"EditWordFilters_ClearDictionary", "Clear Filters"},
       {"Command9", "Restore Filter Dictionary"},
       {"EditWordFilters_SAVE", "Overwrite Zentrel Default Filter Dictionary"},
   };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.button);
+  for (const auto& [button, question] : cases) {
+    SCOPED_TRACE(button);
     Prefs p;
     p.Use("the\r\nand\r\n");
     p.s.Form.WordFiltersPage_WordDictionary = "the\r\nand\r\n";  // as typed, not yet sorted
@@ -63,18 +41,18 @@ TEST(EditWordFilters, QuestionsAskedAndNoChangesNothing) {
     p.s.Form.WordFiltersPage_CurrentWordDictionary_Text = text::UCase(p.standard);
     const std::string saved = ReadFile(p.standard);
     p.platform.AnswerNo();
-    p.Click(c.button);
+    p.Click(button);
     EXPECT_EQ(p.platform.questions.back(),
-              std::string("WARNING: WARNING - ") + c.question + " ? Are you sure ?");
+              std::string("WARNING: WARNING - ") + question + " ? Are you sure ?");
     EXPECT_EQ(p.s.Form.WordFiltersPage_WordDictionary, "the\r\nand\r\n");
-    EXPECT_EQ(p.List(), (Words{"and", "the"}));
+    EXPECT_EQ(p.Filters(), (Words{"and", "the"}));
     EXPECT_EQ(ReadFile(p.standard), saved);
   }
 }
 
-TEST(EditWordFilters_ClearDictionary_Click, YesClearsAndDefaultsRestore) {
+TEST(EditWordFilters, YesClearsAndDefaultsRestore) {
   Prefs p;
-  const Words standard = p.List();
+  const Words standard = p.Filters();
   ASSERT_FALSE(standard.empty());
   p.platform.AnswerYes();
   p.Click("EditWordFilters_ClearDictionary");
@@ -82,29 +60,30 @@ TEST(EditWordFilters_ClearDictionary_Click, YesClearsAndDefaultsRestore) {
   EXPECT_EQ(p.s.FilterCount, 0);
   p.platform.AnswerYes();
   p.Click("Command9");
-  EXPECT_EQ(p.List(), standard);
+  EXPECT_EQ(p.Filters(), standard);
 }
 
-TEST(EditWordFilters_SAVE_Click, AlwaysWritesTheStandardDictionary) {
+// Merge and load read CR-only line ends too; "Save" always writes the standard dictionary.
+TEST(EditWordFilters, MergeLoadAndSave) {
   Prefs p;
   p.Use("the\r\nand\r\n");
-  p.platform.AnswerOpen(p.File("zoo.txt", "zebra\r\n"));
+  p.platform.AnswerOpen(p.Write("zoo.txt", "zebra\rant\r"));
   p.Click("EditWordFilters_MergeDictionary");
-  EXPECT_EQ(p.List(), (Words{"and", "the", "zebra"}));
-  const state::FileDialog& shown = p.platform.dialogs.back();
-  EXPECT_EQ(shown.Filter, "(*.txt)|*.txt|");
-  EXPECT_EQ(shown.DefaultExt, ".txt");
+  EXPECT_EQ(p.Filters(), (Words{"and", "ant", "the", "zebra"}));
+  EXPECT_EQ(p.platform.dialogs.back().Filter, "(*.txt)|*.txt|");
+  EXPECT_EQ(p.platform.dialogs.back().FilterIndex, 1);
 
-  p.platform.AnswerOpen(p.File("mine.txt", "mine\r\nours\r\n"));
+  const std::string mine = p.Write("mine.txt", "mine\r\nours\r\n");
+  p.platform.AnswerOpen(mine);
   p.Click("EditWordFilters_LoadDictionary");
-  EXPECT_EQ(p.s.Form.WordFiltersPage_CurrentWordDictionary_Text, p.folder.File("mine.txt"));
-  EXPECT_EQ(p.List(), (Words{"mine", "ours"}));
+  EXPECT_EQ(p.s.Form.WordFiltersPage_CurrentWordDictionary_Text, mine);
+  EXPECT_EQ(p.Filters(), (Words{"mine", "ours"}));
   // A user file is current: no question, and the standard file receives the words.
   p.s.Form.WordFiltersPage_WordDictionary += "cat\r\n";
   p.Click("EditWordFilters_SAVE");
   EXPECT_TRUE(p.platform.questions.empty());
   EXPECT_EQ(ReadFile(p.standard).rfind("cat\r\nmine\r\nours\r\n", 0), 0u);
-  EXPECT_EQ(ReadFile(p.folder.File("mine.txt")), "mine\r\nours\r\n");
+  EXPECT_EQ(ReadFile(mine), "mine\r\nours\r\n");
 }
 
 TEST(EditWordFilters_SAVEAS_Click, WritesTheChosenFileAndMakesItCurrent) {
@@ -124,46 +103,26 @@ TEST(EditWordFilters_SAVEAS_Click, WritesTheChosenFileAndMakesItCurrent) {
   EXPECT_EQ(p.s.Form.WordFiltersPage_CurrentWordDictionary_Text, target);
 }
 
-// Both saves of the dictionary keep the old file whole when the write fails; "Save As" then
-// leaves the current dictionary as it was.
-TEST(EditWordFilters_SAVEAS_Click, AFailingWriteKeepsTheOldFileAndTheCurrentName) {
-  testing::ShellProgramFolder folder;
-  testing::FakePlatform platform{folder.Path()};
+// A failed write (kept whole by the writer) leaves the current dictionary's name as it was.
+TEST(EditWordFilters_SAVEAS_Click, AFailingWriteKeepsTheCurrentName) {
   testing::FullDisk disk;
-  AppState s(platform, disk);
-  commands::Form_Load(s);
-  s.Form.WordFiltersPage_WordDictionary = "b\r\na\r\n";
-  const std::string current = s.Form.WordFiltersPage_CurrentWordDictionary_Text;
-  const std::string target = folder.File("saved.txt");
-  WriteFile(target, "old words\r\n");
-  platform.AnswerSave(target);
-  EXPECT_THROW(EditWordFilters_SAVEAS_Click(s), file_io::FileError);
-  EXPECT_EQ(ReadFile(target), "old words\r\n");
-  EXPECT_EQ(s.Form.WordFiltersPage_CurrentWordDictionary_Text, current);
-
-  const std::string standard = words::Standard_Dictionary_Path(s);
-  const std::string before = ReadFile(standard);
-  s.Form.WordFiltersPage_CurrentWordDictionary_Text = target;  // no question for another file
-  EXPECT_THROW(EditWordFilters_SAVE_Click(s), file_io::FileError);
-  EXPECT_EQ(ReadFile(standard), before);
-  EXPECT_EQ(disk.failedWrites, 2);
-  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path()))
-    EXPECT_EQ(entry.path().filename().string().find(".zentrel-"), std::string::npos)
-        << entry.path();
+  Prefs p(disk);
+  const std::string current = p.s.Form.WordFiltersPage_CurrentWordDictionary_Text;
+  p.platform.AnswerSave(p.folder.File("saved.txt"));
+  EXPECT_THROW(EditWordFilters_SAVEAS_Click(p.s), file_io::FileError);
+  EXPECT_EQ(p.s.Form.WordFiltersPage_CurrentWordDictionary_Text, current);
+  EXPECT_GT(disk.failedWrites, 0);
 }
 
+// "Select Default" is checked on a restart; "Reset Default" keeps the words in use.
 TEST(WordFiltersPage_ResetDefaultWordDictionary_Button_Click, KeepsTheWordsInUse) {
   Prefs p;
-  const std::string mine = p.File("mine.txt", "mine\r\nours\r\n");
-  p.platform.AnswerOpen(mine);
+  p.platform.AnswerOpen(p.Write("mine.txt", "mine\r\nours\r\n"));
   p.Click("WordFiltersPage_SelectDefaultWordDictionary_Button");
-  EXPECT_EQ(p.s.FilterDictionaryFile, mine);
-  EXPECT_EQ(p.s.Form.WordFiltersPage_SelectDefaultWordDictionary_Text, mine);
-  EXPECT_EQ(p.List(), (Words{"mine", "ours"}));
   p.Click("WordFiltersPage_ResetDefaultWordDictionary_Button");
   EXPECT_EQ(p.s.FilterDictionaryFile, "");
   EXPECT_EQ(p.s.Form.WordFiltersPage_SelectDefaultWordDictionary_Text, "");
-  EXPECT_EQ(p.List(), (Words{"mine", "ours"}));
+  EXPECT_EQ(p.Filters(), (Words{"mine", "ours"}));
 }
 
 TEST(EditWordFilters, CancelledDialogsChangeNothing) {
@@ -178,50 +137,32 @@ TEST(EditWordFilters, CancelledDialogsChangeNothing) {
     p.platform.CancelDialog();
     p.Click(button);
     EXPECT_EQ(p.s.Form.WordFiltersPage_WordDictionary, "one\r\ntwo\r\n");
-    EXPECT_EQ(p.List(), (Words{"one", "two"}));
+    EXPECT_EQ(p.Filters(), (Words{"one", "two"}));
     EXPECT_EQ(p.s.Form.WordFiltersPage_CurrentWordDictionary_Text, "current");
     EXPECT_EQ(p.s.FilterDictionaryFile, "default");
   }
   EXPECT_TRUE(p.platform.questions.empty());
 }
 
-// Every check box of the window copies itself into its own setting and no other.
-TEST(Prefs_CheckBoxes, EachClickCopiesItsBoxIntoItsSetting) {
-  using F = state::FormModel;
-  using S = state::SettingsFields;
-#define BOX(name, setting) \
-  { #name, &F::name, &S::setting }
-  const std::tuple<const char*, int16_t F::*, int16_t S::*> pairs[] = {
-      BOX(HtmlDecodePref_IncludeTitleWithBody_CheckBox, DecodeIncludeTitleWithBody),
-      BOX(HtmlDecodePref_IncludeALTTEXT_CheckBox, DecodeIncludeAltText),
-      BOX(HtmlDecodePref_IncludeBODYTEXT_CheckBox, DecodeIncludeBodyText),
-      BOX(HtmlDecodePref_IncludeMetaDizzyWithBody_CheckBox, DecodeIncludeMetaDescriptionWithBody),
-      BOX(WordMatch_ForceCase, WordMatchForceCase),
-      BOX(WordMatch_IgnoreAlphaNumericWords, WordMatchIgnoreAlphaNumeric),
-      BOX(KeyWords_ForceSameCaseMatching, KeywordsForceSameCase),
-      BOX(KeyWords_MatchScanType_CheckBOx, KeywordsMatchScanType),
-      BOX(KeyWordMatch_Disable_Part_Keyword_Matches, KeywordsDisablePartMatches),
-      BOX(KeyWords_RemoveDoubleKeyWordListings, KeywordsRemoveDoubles),
-      BOX(KeyWords_SortList, KeywordsSortList),
-      BOX(KeyWords_MinKeyWordMatches_Option, KeywordsUseMinMatches),
-      BOX(PageReport_Export_WordCount_CheckBox, ReportExportWordCount),
-      BOX(ViewBody_ShowRAWBODY_CHeckBox, ViewBodyShowRaw),
-      BOX(MetaTagEncodePref_SwapContentAndNameOrder_CheckBox, EncodeSwapContentAndNameOrder),
-      BOX(MetaTagEncodePref_UseComaSpaceBetweenKeyWords_CheckBox, EncodeComaSpaceBetweenKeywords),
-  };
-#undef BOX
+// Every check box copies itself into its own setting and no other, and starts no analysis.
+TEST(SettingBoxes, EachClickCopiesItsBoxIntoItsSetting) {
   testing::FakePlatform platform;
   AppState s(platform);
   for (int16_t value : {int16_t{1}, int16_t{0}}) {
-    for (const auto& [name, box, setting] : pairs) {
-      s.Form.*box = value;
-      ASSERT_TRUE(commands::Dispatch(s, name));
-      // Only its own setting follows: every other pair still shows the previous round.
-      for (const auto& [otherName, otherBox, otherSetting] : pairs)
-        EXPECT_EQ(s.*otherSetting, s.Form.*otherBox) << name << " / " << otherName;
+    for (const state::Setting& row : state::Settings()) {
+      if (!row.CheckBox)
+        continue;
+      SCOPED_TRACE(row.Control);
+      s.Form.*row.CheckBox = value;
+      ASSERT_TRUE(Dispatch(s, row.Control));
+      for (const state::Setting& other : state::Settings()) {
+        if (other.CheckBox) {
+          EXPECT_EQ(s.*other.Flag, s.Form.*other.CheckBox) << other.Control;
+        }
+      }
     }
   }
-  EXPECT_TRUE(s.Form.ReportTextBox.empty());  // none of them starts an analysis
+  EXPECT_TRUE(s.Form.ReportTextBox.empty());
 }
 
 TEST(Defaults_Users_FileExtend_DropDown_Click, KnownExtensionsOnly) {
@@ -237,14 +178,13 @@ TEST(Defaults_Users_FileExtend_DropDown_Click, KnownExtensionsOnly) {
 }
 
 TEST(HtmlDecodePref_WordDecodeStopCHR, TheBoxDrivesTheDelimitersAndDefaultsRestoreThem) {
-  testing::FakePlatform platform;
-  AppState s(platform);
-  s.Form.HtmlDecodePref_WordDecodeStopCHR_TextBox = ";";
-  HtmlDecodePref_WordDecodeStopCHR_TextBox_Change(s);
-  EXPECT_EQ(s.WordDelimiterChars, ";");
-  ASSERT_TRUE(commands::Dispatch(s, "HtmlDecodePref_WordDecodeStopCHR_Button"));
-  EXPECT_EQ(s.WordDelimiterChars, "\"#=<>^()[]{}/.,;:+-_*&!?@%");
-  EXPECT_EQ(s.Form.HtmlDecodePref_WordDecodeStopCHR_TextBox, s.WordDelimiterChars);
+  Prefs p;
+  p.s.Form.HtmlDecodePref_WordDecodeStopCHR_TextBox = ";";
+  HtmlDecodePref_WordDecodeStopCHR_TextBox_Change(p.s);
+  EXPECT_EQ(p.s.WordDelimiterChars, ";");
+  p.Click("HtmlDecodePref_WordDecodeStopCHR_Button");
+  EXPECT_EQ(p.s.WordDelimiterChars, "\"#=<>^()[]{}/.,;:+-_*&!?@%");
+  EXPECT_EQ(p.s.Form.HtmlDecodePref_WordDecodeStopCHR_TextBox, p.s.WordDelimiterChars);
 }
 
 }  // namespace

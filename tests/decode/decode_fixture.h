@@ -1,37 +1,14 @@
 #pragma once
-// A state as start-up leaves it for the decoder: the META tag table, the special tag table,
-// the default word delimiters and decoder settings, and a page put straight into the cache.
+// A started program for the decoder, with a page put straight into the cache.
 
 #include <string>
 
 #include "decode/meta_tag_table.h"
-#include "document/tag_scanner.h"
-#include "fake_platform.h"
-#include "state/app_state.h"
+#include "started_program.h"
 
 namespace zentrel::testing {
 
-struct DecodeState {
-  FakePlatform platform;
-  AppState s{platform};
-
-  DecodeState() {
-    decode::Init_MetaTag_Table(s);
-    document::Build_Tag_list(s);
-    s.WordDelimiterChars = "\"#=<>^()[]{}/.,;:+-_*&!?@%";
-    s.DecodeIncludeBodyText = 1;
-    s.DecodeIncludeAltText = 1;
-    s.DecodeIncludeTitleWithBody = 1;
-    s.DecodeIncludeMetaDescriptionWithBody = 0;
-  }
-
-  void Put(const std::string& page) {
-    s.DocumentBytes.assign(page.begin(), page.end());
-    s.DocumentBytes.push_back(0);
-    s.DocumentText = page;
-    s.DocumentLength = static_cast<int32_t>(page.size());
-  }
-
+struct DecodeState : Started {
   const state::MetaTagRow& Row(const std::string& name) const {
     return s.MetaTags.at(static_cast<size_t>(decode::Find_MetaTag_Index(s, name)));
   }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/run_time_error.h"
 #include "base/text.h"
 #include "decode_fixture.h"
 #include "document/document_cache.h"
@@ -139,17 +140,39 @@ TEST(HTML_Decode_Document, WordTextRules) {
   }
 }
 
+// The window repaints every 801 passes of the scan and while the decoder finishes.
 TEST(HTML_Decode_Document, LetsEventsRunEvery801PassesAndWhileFinishing) {
   DecodeState d;
   std::string page;
   for (int i = 0; i < 1602; ++i)
     page += "<i>";
   d.Put(page);
+  const long before = d.platform.eventsRun;
   HTML_ReScan_Document(d.s);
-  EXPECT_EQ(d.platform.eventsRun, 2);
+  EXPECT_EQ(d.platform.eventsRun - before, 2);
   d.Put(page + "<i>");
   HTML_Decode_Document(d.s);
-  EXPECT_EQ(d.platform.eventsRun, 2 + 2 + 3);
+  EXPECT_EQ(d.platform.eventsRun - before, 2 + 2 + 3);
+  d.Put(page + std::string(page, 0, 799 * 3));  // 2401 tags
+  const long third = d.platform.eventsRun;
+  HTML_ReScan_Document(d.s);
+  EXPECT_EQ(d.platform.eventsRun - third, 2);  // every 801 passes, not every 800
+}
+
+TEST(MetaTagTable, ValuesByExactNameAndClearingTheRowsInUse) {
+  DecodeState d;
+  AppState& s = d.s;
+  EXPECT_EQ(Find_MetaTag_Index(s, "Keywords"), -1);
+  Set_MetaTag_Value(s, "robots", "noindex");
+  Set_MetaTag_Value(s, "Robots", "ignored");
+  EXPECT_EQ(Get_MetaTag_Value(s, "robots"), "noindex");
+  s.MetaTags[14].MetaTagEnd = " 9";
+  s.MetaTags[15].MetaTagValue = "outside the rows in use";
+  Clear_MetaTag_Values(s);
+  EXPECT_EQ(Get_MetaTag_Value(s, "robots"), "");
+  EXPECT_EQ(s.MetaTags[14].MetaTagEnd, "-1");
+  EXPECT_EQ(s.MetaTags[15].MetaTagValue, "outside the rows in use");
+  EXPECT_THROW(Set_MetaTag_Entry(s, 21, "x", 1), RunTimeError);
 }
 
 }  // namespace

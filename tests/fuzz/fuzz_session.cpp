@@ -5,7 +5,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <map>
 
 #include "commands/startup.h"
 #include "document/document_cache.h"
@@ -39,38 +38,6 @@ std::string Scratch_Path(const std::string& name) {
 void Put_Page(AppState& s, const std::string& bytes) {
   s.Form.Html_Document_Editor = bytes;
   s.DocumentLength = document::Reload_File_From_Memory_TO_Cache(s);
-}
-
-std::string Escaped(const std::string& bytes) {
-  std::string out;
-  for (unsigned char c : bytes) {
-    if (c >= 32 && c < 127 && c != '\\') {
-      out += static_cast<char>(c);
-    } else {
-      char hex[8];
-      std::snprintf(hex, sizeof hex, "\\x%02X", c);
-      out += hex;
-    }
-  }
-  return out;
-}
-
-namespace {
-// Never freed: it must outlive the exit handler that prints it.
-std::map<std::string, long>* counts = nullptr;
-}  // namespace
-
-void Count(const char* what) {
-  if (counts == nullptr) {
-    counts = new std::map<std::string, long>();
-    if (std::getenv("ZENTREL_FUZZ_COUNTS") != nullptr) {
-      std::atexit([] {
-        for (const auto& [name, n] : *counts)
-          std::fprintf(stderr, "count: %s %ld\n", name.c_str(), n);
-      });
-    }
-  }
-  ++(*counts)[what];
 }
 
 void Require(bool condition, const char* property) {

@@ -17,11 +17,6 @@ AppState& Started_State();
 std::string Scratch_Path(const std::string& name);
 // Puts bytes into the page source editor and the document cache, as an edit would.
 void Put_Page(AppState& s, const std::string& bytes);
-// The bytes with control and non-ASCII bytes as \xNN, for messages.
-std::string Escaped(const std::string& bytes);
-// Counts how often a property was really checked; the counts are printed at exit when
-// ZENTREL_FUZZ_COUNTS is set, to see that a narrowed property is not vacuous.
-void Count(const char* what);
 // Aborts with a message when a property does not hold.
 void Require(bool condition, const char* property);
 

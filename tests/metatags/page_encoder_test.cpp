@@ -1,12 +1,13 @@
 #include "metatags/page_encoder.h"
 
-#include <gtest/gtest.h>
-
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "commands/edit_meta_tags.h"
 #include "commands/page_saving.h"
+#include "decode/meta_tag_table.h"
 #include "encoder_test_page.h"
+#include "metatags/tag_list_file.h"
+#include "started_program.h"
 
 namespace zentrel::metatags {
 namespace {
@@ -25,34 +26,10 @@ void Fill_All_Fields(AppState& s) {
     Set_MetaTag_TextBox(s, i, fields[i]);
 }
 
-TEST(Build_Meta_Tag, OnlyTheFirstAttributeIsTrimmed) {
-  testing::FakePlatform platform;
-  AppState s(platform);
-  EXPECT_EQ(Build_Meta_Tag(s, " noindex ", " robots "),
-            "<META content=\"noindex\" name=\" robots \">\r\n");
-  s.EncodeSwapContentAndNameOrder = 1;
-  EXPECT_EQ(Build_Meta_Tag(s, "  lead", " robots "),
-            "<META name=\"robots\" content=\"  lead\">\r\n");
-}
-
-TEST(Html_Copy_Section_To_Temp, CopiesNonZeroBytesInclusiveOnlyWhenFromBeforeTo) {
-  EncoderTestPage page;
-  AppState& s = page.s;
-  s.Form.Html_Document_Editor = "<head><meta x>\r\n<title>";
-  s.DocumentLength = document::Reload_File_From_Memory_TO_Cache(s);
-  document::Html_Clear_Cache_Section(s, 6, 14);
-  s.RebuildBytes.assign(30, '.');
-  EXPECT_EQ(Html_Copy_Section_To_Temp(s, 0, 22, 2), 2 + 6 + 7);
-  EXPECT_EQ(std::string(s.RebuildBytes.begin(), s.RebuildBytes.begin() + 16), "..<head><title>.");
-  EXPECT_EQ(Html_Copy_Section_To_Temp(s, 3, 3, 9), 9);  // one byte is not copied
-  s.RebuildBytes.assign(3, '.');
-  EXPECT_THROW(Html_Copy_Section_To_Temp(s, 0, 5, 0), RunTimeError);
-}
-
 TEST(HTML_ENCODE_Document, FullSetOfFieldsInBothOrders) {
   for (int16_t swap : {int16_t{0}, int16_t{1}}) {
     EncoderTestPage page;
-    std::string path = page.Load("encoder_long_page.html");
+    std::string path = page.LoadData("encoder_long_page.html");
     page.s.EncodeSwapContentAndNameOrder = swap;
     Fill_All_Fields(page.s);
     EXPECT_TRUE(HTML_ENCODE_Document(page.s, "Testing", 1));
@@ -71,7 +48,7 @@ TEST(HTML_ENCODE_Document, FullSetOfFieldsInBothOrders) {
 // </head>); a field emptied later loses its tag and nothing else.
 TEST(HTML_ENCODE_Document, RebuildingAgainKeepsOneSetOfTags) {
   EncoderTestPage page;
-  page.Load("encoder_long_page.html");
+  page.LoadData("encoder_long_page.html");
   Fill_All_Fields(page.s);
   std::string expected = text::ReplaceAll(ReadTestData("encoder_full_content_first.html"),
                                           "\r\n\r\n</head>", "\r\n</head>");
@@ -92,9 +69,9 @@ TEST(HTML_ENCODE_Document, EmptyFieldsAddOnlyTheTitleAndAMissingTitleBlanksNothi
   std::string expected = ReadTestData("encoder_untitled.html");
   expected.insert(expected.find("<head>") + 6, "<TITLE></TITLE>\r\n");
   // Title positions left from another page must not blank anything in this one.
-  page.Load("encoder_page.html");
+  page.LoadData("encoder_page.html");
   ASSERT_TRUE(HTML_ENCODE_Document(page.s, "Testing", 1));
-  page.Load("encoder_untitled.html");
+  page.LoadData("encoder_untitled.html");
   decode::Set_MetaTag_Value(page.s, "title", "kept?");
   page.s.Form.TagsOption_USE_META_TITLE = 1;  // only clears the stored title
   ASSERT_TRUE(HTML_ENCODE_Document(page.s, "Testing", 1));
@@ -104,7 +81,7 @@ TEST(HTML_ENCODE_Document, EmptyFieldsAddOnlyTheTitleAndAMissingTitleBlanksNothi
 
 TEST(HTML_ENCODE_Document, BlockGoesInsideHtmlWithoutHeadAndFirstWithNeither) {
   EncoderTestPage page;
-  page.Load("encoder_headless.html");
+  page.LoadData("encoder_headless.html");
   Set_MetaTag_TextBox(page.s, 0, "T");
   Set_MetaTag_TextBox(page.s, 6, "me");
   page.platform.AnswerYes();
@@ -118,7 +95,7 @@ TEST(HTML_ENCODE_Document, BlockGoesInsideHtmlWithoutHeadAndFirstWithNeither) {
                                "\r\n<body>\r\nHi there, this page has a body but no head at "
                                "all.\r\n</body>\r\n</html>\r\n");
 
-  page.Load("encoder_text_only.txt");
+  page.LoadData("encoder_text_only.txt");
   page.platform.AnswerYes();
   ASSERT_TRUE(HTML_ENCODE_Document(page.s, "Testing", 1));
   EXPECT_EQ(page.platform.questions.back(),
@@ -130,7 +107,7 @@ TEST(HTML_ENCODE_Document, BlockGoesInsideHtmlWithoutHeadAndFirstWithNeither) {
 TEST(HTML_ENCODE_Document, NoToTheWarningOrNoNameChangesNothing) {
   EncoderTestPage page;
   EXPECT_FALSE(HTML_ENCODE_Document(page.s, "Testing", 1));  // no document yet
-  std::string path = page.Load("encoder_headless.html");
+  std::string path = page.LoadData("encoder_headless.html");
   Set_MetaTag_TextBox(page.s, 1, "desc");
   const auto bytes = page.s.DocumentBytes;
   page.platform.AnswerNo();
@@ -147,7 +124,7 @@ TEST(HTML_ENCODE_Document, NoToTheWarningOrNoNameChangesNothing) {
 // old META tag already blanked, is put back and a stale carrier file is cleaned up.
 TEST(HTML_ENCODE_Document, OverflowingTheBufferRestoresTheCache) {
   EncoderTestPage page;
-  page.Load("encoder_tiny.html");
+  page.LoadData("encoder_tiny.html");
   const std::string original = ReadTestData("encoder_tiny.html");
   testing::WriteFile(page.TempDataFile(), "stale");
   Set_MetaTag_TextBox(page.s, 1, std::string(150, 'x'));
@@ -166,6 +143,65 @@ TEST(HTML_ENCODE_Document, OverflowingTheBufferRestoresTheCache) {
   EXPECT_EQ(page.Cache(),
             "<html><head><TITLE></TITLE>\r\n<META content=\"d\" name=\"description\">\r\n"
             "</head><body></body></html>");
+}
+
+using commands::Apply_MetaTag_List_Text;
+using commands::Load_MetaTagList;
+using commands::Save_MetaTag_List;
+
+struct Panel : testing::Started {
+  std::string path = folder.File("set.tag");
+  void Field(int16_t i, const std::string& text, int16_t marked) {
+    Set_MetaTag_TextBox(s, i, text);
+    s.Form.MetaTag_Selection_CheckBox[static_cast<size_t>(i)] = marked;
+  }
+  const std::string& Text(size_t i) const { return s.Form.MetaTag_TextBox[i]; }
+};
+
+TEST(Save_MetaTag_List, MarkedNonEmptyFieldsOneLineEachWithCommasEncoded) {
+  Panel p;
+  testing::WriteFile(p.path, "old contents\r\n");
+  p.Field(0, " Title, with comma ", 1);
+  p.Field(4, "   ", 1);      // marked but blank
+  p.Field(6, "Someone", 0);  // not marked
+  p.Field(10, "30 days", 1);
+  p.platform.AnswerSave(p.path);
+  Save_MetaTag_List(p.s);
+  EXPECT_EQ(ReadFile(p.path), "pagetitle:Title&coma& with comma\r\nrevisit-after:30 days\r\n");
+  EXPECT_EQ(p.platform.dialogs.at(0).Filter, "(*.tag)|*.tag|(*.*)|*.*|");
+
+  // Back into the marked fields; the unmarked one keeps its text though the file names it.
+  p.Field(0, "", 1);
+  p.Field(6, "kept", 0);
+  testing::WriteFile(p.path, ReadFile(p.path) + "author:x\r\n");
+  p.platform.AnswerOpen(p.path);
+  Load_MetaTagList(p.s);
+  EXPECT_EQ(p.Text(0), "Title, with comma");
+  EXPECT_EQ(p.Text(6), "kept");
+}
+
+// CR-only line ends among the others.
+TEST(Apply_MetaTag_List_Text, SkipsUnknownNamesAndLeavesUnnamedFields) {
+  Panel p;
+  p.Field(1, "old", 1);
+  p.Field(2, "kept abstract", 1);  // marked, not named
+  p.Field(3, "", 1);
+  Apply_MetaTag_List_Text(p.s,
+                          "description:a&coma& b\rbogus:1\r\nnocolon\rKeywords:upper\r\n"
+                          "keywords:k\n");
+  EXPECT_EQ(p.Text(1), "a, b");
+  EXPECT_EQ(p.Text(2), "kept abstract");
+  EXPECT_EQ(p.Text(3), "k");
+
+  // A missing file or a cancelled dialog changes nothing.
+  p.platform.AnswerOpen(p.folder.File("missing.tag"));
+  Load_MetaTagList(p.s);
+  p.platform.CancelDialog();
+  Load_MetaTagList(p.s);
+  EXPECT_EQ(p.Text(1), "a, b");
+
+  // "zentrel" has no field, so there is no mark to look at.
+  EXPECT_THROW(Apply_MetaTag_List_Text(p.s, "zentrel:x\r\n"), RunTimeError);
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 // every question and message shown. A question with no scripted answer, or an answer left
 // unused when the fake is destroyed, fails the test.
 
+#include <gtest/gtest.h>
+
 #include <deque>
 #include <string>
 #include <vector>
@@ -13,20 +15,35 @@ namespace zentrel::testing {
 
 class FakePlatform : public state::Platform {
  public:
-  explicit FakePlatform(std::string executableFolder = "/nonexistent-zentrel-folder");
-  ~FakePlatform() override;
+  explicit FakePlatform(std::string folder = "/nonexistent-zentrel-folder")
+      : executableFolder(std::move(folder)) {}
+  ~FakePlatform() override {
+    EXPECT_TRUE(answers_.empty()) << answers_.size() << " scripted answer(s) were never used";
+    EXPECT_EQ(busyDepth, 0) << "the busy pointer was not restored";
+  }
 
-  // Scripted answers, consumed in order.
-  void AnswerOpen(const std::string& path, int filterIndex = -1, const std::string& ext = "");
-  void AnswerSave(const std::string& path, int filterIndex = -1, const std::string& ext = "");
-  void CancelDialog();
-  void AnswerYes();
-  void AnswerNo();
-  void AnswerSaveChanges(state::SaveChoice choice);
+  // Scripted answers, consumed in order; a dialog's filter index and extension only when given.
+  void AnswerOpen(const std::string& path, int filterIndex = -1, const std::string& ext = "") {
+    answers_.push_back({'O', path, filterIndex, ext});
+  }
+  void AnswerSave(const std::string& path, int filterIndex = -1, const std::string& ext = "") {
+    answers_.push_back({'S', path, filterIndex, ext});
+  }
+  void CancelDialog() { answers_.push_back({'C', "", -1, ""}); }
+  void AnswerYes() { answers_.push_back({'Y', "", -1, ""}); }
+  void AnswerNo() { answers_.push_back({'N', "", -1, ""}); }
+  void AnswerSaveChanges(state::SaveChoice choice) {
+    answers_.push_back({'Q', "", -1, "", choice});
+  }
 
-  bool ShowOpen(state::FileDialog& dialog) override;
-  bool ShowSave(state::FileDialog& dialog) override;
-  bool AskYesNo(const std::string& title, const std::string& text) override;
+  bool ShowOpen(state::FileDialog& dialog) override { return Dialog(dialog, 'O'); }
+  bool ShowSave(state::FileDialog& dialog) override { return Dialog(dialog, 'S'); }
+  bool AskYesNo(const std::string& title, const std::string& text) override {
+    questions.push_back(title + ": " + text);
+    const char kind = Next(text);
+    EXPECT_TRUE(kind == 'Y' || kind == 'N') << "a dialog's answer for the question " << text;
+    return kind == 'Y';
+  }
   // Logs the diff and answers saveChanges.
   bool ConfirmChanges(const std::string& diffText,
                       const std::vector<std::string>& vanishingTags) override {
@@ -34,8 +51,15 @@ class FakePlatform : public state::Platform {
     vanishingShown.push_back(vanishingTags);
     return saveChanges;
   }
-  state::SaveChoice AskSaveChanges(const std::string& text) override;
-  void ShowMessage(const std::string& text) override;
+  state::SaveChoice AskSaveChanges(const std::string& text) override {
+    questions.push_back(text);
+    const bool scripted = !answers_.empty() && answers_.front().kind == 'Q';
+    const state::SaveChoice choice = scripted ? answers_.front().choice : state::SaveChoice::Cancel;
+    if (Next(text) != 'Q')
+      ADD_FAILURE() << "a Save / Discard / Cancel answer for the question " << text;
+    return choice;
+  }
+  void ShowMessage(const std::string& text) override { messages.push_back(text); }
   void ShowCritical(const std::string& text) override { criticals.push_back(text); }
   void BeginBusy() override {
     ++busyDepth;
@@ -61,14 +85,38 @@ class FakePlatform : public state::Platform {
 
  private:
   struct Answer {
-    enum Kind { Open, Save, Cancel, Yes, No, SaveChanges } kind;
+    char kind;  // Open, Save, Cancel, Yes, No, Q: Save / Discard / Cancel
     std::string path;
     int filterIndex = -1;
     std::string ext;
     state::SaveChoice choice = state::SaveChoice::Cancel;
   };
-  bool Dialog(state::FileDialog& dialog, Answer::Kind kind);
+  char Next(const std::string& what) {
+    if (answers_.empty()) {
+      ADD_FAILURE() << "nothing scripted for " << what;
+      return 'C';
+    }
+    const char kind = answers_.front().kind;
+    if (kind == 'O' || kind == 'S')
+      next_ = answers_.front();
+    answers_.pop_front();
+    return kind;
+  }
+  bool Dialog(state::FileDialog& dialog, char kind) {
+    dialogs.push_back(dialog);
+    const char given = Next("a dialog with filter " + dialog.Filter);
+    if (given == 'C')
+      return false;
+    EXPECT_EQ(given, kind) << "the scripted answer is for another kind of dialog";
+    dialog.FileName = next_.path;
+    if (next_.filterIndex >= 0)
+      dialog.FilterIndex = next_.filterIndex;
+    if (!next_.ext.empty())
+      dialog.DefaultExt = next_.ext;
+    return true;
+  }
   std::deque<Answer> answers_;
+  Answer next_{};
 };
 
 // Cancels every dialog, answers No to every question and Discard to the one about unsaved

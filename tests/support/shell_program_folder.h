@@ -1,11 +1,7 @@
 #pragma once
-// A scratch program folder for the shell's scenario tests: its path is lower case (the
-// standard dictionary's path is lower-cased before it is opened) and it holds copies of the
-// real standard dictionary. Removed with everything in it when the object goes.
+// A scratch program folder holding copies of the real standard dictionary (under both
+// spellings, whichever the loader opens).
 
-#include <unistd.h>
-
-#include <atomic>
 #include <filesystem>
 #include <string>
 
@@ -13,38 +9,16 @@
 
 namespace zentrel::testing {
 
-class ShellProgramFolder {
+class ShellProgramFolder : public TempFolder {
  public:
   ShellProgramFolder() {
-    static std::atomic<int> counter{0};
-    path_ = std::filesystem::temp_directory_path() /
-            ("zentrel-shell-" + std::to_string(getpid()) + "-" + std::to_string(counter++));
-    std::filesystem::remove_all(path_);
-    std::filesystem::create_directories(path_ / "dictionary");
-    // Under both spellings, whichever the loader opens.
-    std::filesystem::copy_file(StandardDictionarySource(), path_ / "dictionary" / kDictionary);
-    std::filesystem::copy_file(StandardDictionarySource(),
-                               path_ / "dictionary" / "zentrel_standard.txt");
+    const auto source = std::filesystem::path(TestDataPath("")) / ".." / ".." / "resources" /
+                        "dictionary" / "Zentrel_Standard.txt";
+    std::filesystem::create_directories(path() / "dictionary");
+    for (const char* name : {"Zentrel_Standard.txt", "zentrel_standard.txt"})
+      std::filesystem::copy_file(source, path() / "dictionary" / name);
   }
-  ~ShellProgramFolder() {
-    std::error_code ec;
-    std::filesystem::remove_all(path_, ec);
-  }
-  ShellProgramFolder(const ShellProgramFolder&) = delete;
-  ShellProgramFolder& operator=(const ShellProgramFolder&) = delete;
-
-  std::string Path() const { return path_.string(); }
-  std::string File(const std::string& name) const { return (path_ / name).string(); }
-  static std::string StandardDictionarySource() {
-    return (std::filesystem::path(TestDataPath("")) / ".." / ".." / "resources" / "dictionary" /
-            kDictionary)
-        .lexically_normal()
-        .string();
-  }
-
- private:
-  static constexpr const char* kDictionary = "Zentrel_Standard.txt";
-  std::filesystem::path path_;
+  std::string Path() const { return path().string(); }
 };
 
 }  // namespace zentrel::testing

@@ -1,5 +1,8 @@
 #include "test_files.h"
 
+#include <unistd.h>
+
+#include <atomic>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
@@ -41,11 +44,14 @@ std::string OversizedFilterDictionary() {
   return words;
 }
 
+// Lower case (the standard dictionary's path is lower-cased before it is opened) and unique
+// to the process and the folder.
 TempFolder::TempFolder() {
-  std::string pattern = (std::filesystem::temp_directory_path() / "zentrel-test-XXXXXX").string();
-  if (!mkdtemp(pattern.data()))
-    throw std::runtime_error("mkdtemp failed");
-  path_ = pattern;
+  static std::atomic<int> counter{0};
+  path_ = std::filesystem::temp_directory_path() /
+          ("zentrel-test-" + std::to_string(::getpid()) + "-" + std::to_string(counter++));
+  std::filesystem::remove_all(path_);
+  std::filesystem::create_directories(path_);
 }
 
 TempFolder::~TempFolder() {

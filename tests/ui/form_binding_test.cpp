@@ -6,7 +6,6 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QTabWidget>
 #include <QTextCursor>
 
 #include "fake_platform.h"
@@ -17,29 +16,6 @@
 #include "ui_test_support.h"
 
 namespace zentrel::ui {
-
-TEST(TextCodec, EveryByteOfAWindows1252PageRoundTrips) {
-  std::string bytes;
-  for (int b = 0; b < 256; ++b)
-    bytes.push_back(static_cast<char>(b));
-  const QString shown = Decode(bytes, Codec::Windows1252);
-  EXPECT_EQ(shown.at(0x80), QChar(0x20AC));
-  EXPECT_EQ(shown.at(0x8D), QChar(0x008D));
-  EXPECT_EQ(Encode(shown, Codec::Windows1252), bytes);
-  // A character the code page cannot hold is written as "?".
-  EXPECT_EQ(Encode(QString::fromUtf8("a\xE2\x86\x92z"), Codec::Windows1252), "a?z");
-}
-
-TEST(TextCodec, EditorPositionsCountLineBreaksAndWideCharacters) {
-  // "\xC3\xA9" is two bytes, the CR LF one break, the emoji two units in the editor.
-  const std::string page = "a\xC3\xA9\r\nb\xF0\x9F\x98\x80x";
-  for (const auto& [byte, unit] : {std::pair{3, 2}, {5, 3}, {10, 6}}) {
-    EXPECT_EQ(ByteToEditor(page, Codec::Utf8, byte), unit) << byte;
-    EXPECT_EQ(EditorToByte(page, Codec::Utf8, unit), static_cast<size_t>(byte)) << unit;
-  }
-  EXPECT_EQ(EditorToByte(page, Codec::Utf8, 99), page.size());
-  EXPECT_EQ(ByteToEditor("\xE9\xE9\r\n!", Codec::Windows1252, 5), 4);
-}
 
 TEST(cCommonDialog, FilterTextBecomesQtNameFilters) {
   EXPECT_EQ(cCommonDialog::NameFilters("(*.html)|*.html|(*.*)|*.*|"),
@@ -57,26 +33,6 @@ class FormBindingTest : public ::testing::Test {
   AppState s{platform};
   FormBinding bind{s};
 };
-
-TEST_F(FormBindingTest, EditedPageSourceKeepsItsBytesAndLineEnds) {
-  // A Windows-1252 page with CR LF line ends and a no-break space.
-  s.Form.Html_Document_Editor = "<p>caf\xE9!\xA0\x81</p>\r\n<p>two</p>\r\n";
-  QPlainTextEdit editor;
-  bind.CodecSource(&s.Form.Html_Document_Editor);
-  bind.TextArea(&editor, &s.Form.Html_Document_Editor);
-  bind.Push();
-  EXPECT_EQ(bind.PageCodec(), Codec::Windows1252);
-  // toPlainText shows the no-break space as a space; the pull below must still give 0xA0.
-  EXPECT_EQ(editor.toPlainText(), QString::fromUtf8("<p>caf\xC3\xA9! \xC2\x81</p>\n<p>two</p>\n"));
-
-  QTextCursor c(editor.document());
-  c.movePosition(QTextCursor::End);
-  c.insertText(QStringLiteral("<p>\u00FCber</p>"));
-  bind.Pull();
-  EXPECT_EQ(s.Form.Html_Document_Editor,
-            "<p>caf\xE9!\xA0\x81</p>\r\n<p>two</p>\r\n<p>\xFC"
-            "ber</p>");
-}
 
 TEST_F(FormBindingTest, OnlyWhatTheUserChangedGoesBackIntoTheForm) {
   s.Form.Html_Document_Editor = "plain ascii page";
@@ -120,76 +76,6 @@ TEST_F(FormBindingTest, OnlyWhatTheUserChangedGoesBackIntoTheForm) {
   EXPECT_EQ(field.text(), QStringLiteral("from the core"));
   EXPECT_FALSE(mark.isChecked());
   EXPECT_EQ(setterCalls.size(), calls);
-}
-
-TEST_F(FormBindingTest, SelectionFollowsBytePositionsAndResetsOnNewText) {
-  s.Form.Html_Document_Editor = "<title>Caf\xC3\xA9</title>\r\n<p>caf\xC3\xA9 TITLE</p>";
-  QPlainTextEdit editor;
-  bind.CodecSource(&s.Form.Html_Document_Editor);
-  bind.TextArea(&editor, &s.Form.Html_Document_Editor);
-  bind.Selection(&editor, &s.Form.Html_Document_Editor, &s.Form.Html_Document_Editor_SelStart,
-                 &s.Form.Html_Document_Editor_SelLength);
-  bind.Push();
-  const std::string& page = s.Form.Html_Document_Editor;
-  s.Form.Html_Document_Editor_SelStart = static_cast<int32_t>(page.find("TITLE"));
-  s.Form.Html_Document_Editor_SelLength = 5;
-  bind.Push();
-  EXPECT_EQ(editor.textCursor().selectedText(), QStringLiteral("TITLE"));
-
-  // The user moves the caret: the Form follows in bytes.
-  QTextCursor c = editor.textCursor();
-  c.setPosition(static_cast<int>(editor.toPlainText().indexOf(QStringLiteral("caf\u00E9 "))));
-  c.setPosition(c.position() + 4, QTextCursor::KeepAnchor);
-  editor.setTextCursor(c);
-  bind.Pull();
-  EXPECT_EQ(s.Form.Html_Document_Editor_SelStart, static_cast<int32_t>(page.find("caf\xC3\xA9 ")));
-  EXPECT_EQ(s.Form.Html_Document_Editor_SelLength, 5);
-
-  s.Form.Html_Document_Editor = "another page";
-  bind.Push();
-  EXPECT_EQ(s.Form.Html_Document_Editor_SelStart, 0);
-  EXPECT_EQ(s.Form.Html_Document_Editor_SelLength, 0);
-  EXPECT_FALSE(editor.textCursor().hasSelection());
-}
-
-TEST_F(FormBindingTest, AnEditorBehindAnotherTabGetsItsTextWhenShown) {
-  QTabWidget tabs;
-  tabs.addTab(new QWidget, QStringLiteral("front"));
-  auto* editor = new QPlainTextEdit;
-  tabs.addTab(editor, QStringLiteral("page"));
-  bind.CodecSource(&s.Form.Html_Document_Editor);
-  bind.TextArea(editor, &s.Form.Html_Document_Editor);
-  bind.Selection(editor, &s.Form.Html_Document_Editor, &s.Form.Html_Document_Editor_SelStart,
-                 &s.Form.Html_Document_Editor_SelLength);
-  tabs.show();
-
-  // The user's edit is taken; then the core replaces the page while the editor is behind.
-  tabs.setCurrentIndex(1);
-  editor->setPlainText(QStringLiteral("typed"));
-  bind.Pull();
-  EXPECT_EQ(s.Form.Html_Document_Editor, "typed");
-  tabs.setCurrentIndex(0);
-  s.Form.Html_Document_Editor = "<p>\xE9t\xE9</p>\r\n<p>two</p>\r\n";  // Windows-1252, CR LF
-  bind.Push();
-  s.Form.Html_Document_Editor_SelStart = 15;
-  s.Form.Html_Document_Editor_SelLength = 3;
-  bind.Push();
-  // Until it is shown the Form keeps the core's page, whatever the editor still holds.
-  bind.Pull();
-  EXPECT_EQ(s.Form.Html_Document_Editor, "<p>\xE9t\xE9</p>\r\n<p>two</p>\r\n");
-  EXPECT_EQ(s.Form.Html_Document_Editor_SelStart, 15);
-
-  tabs.setCurrentIndex(1);
-  EXPECT_EQ(editor->toPlainText(), QString::fromUtf8("<p>\xC3\xA9t\xC3\xA9</p>\n<p>two</p>\n"));
-  EXPECT_EQ(editor->textCursor().selectedText(), QStringLiteral("two"));
-  bind.Pull();
-  EXPECT_EQ(s.Form.Html_Document_Editor_SelStart, 15);
-  EXPECT_EQ(s.Form.Html_Document_Editor_SelLength, 3);
-  QTextCursor c(editor->document());
-  c.movePosition(QTextCursor::End);
-  c.insertText(QStringLiteral("\u00FC"));
-  bind.Pull();
-  EXPECT_EQ(s.Form.Html_Document_Editor, "<p>\xE9t\xE9</p>\r\n<p>two</p>\r\n\xFC");
 }
 
 }  // namespace zentrel::ui

@@ -1,6 +1,6 @@
-// The window over the core, on the offscreen platform with the scripted Platform: every control
-// is there under its name with its caption, and a load, an edit, a rebuild, a search, a failing
-// page and the recent-file menu work through the real widgets.
+// The window over the core, on the offscreen platform with the scripted Platform: the start-up
+// state, and a load, an edit, a rebuild, a search, a failing page and the recent-file menu
+// through the real widgets.
 
 #include <gtest/gtest.h>
 
@@ -8,9 +8,6 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDialog>
-#include <QGroupBox>
-#include <QIcon>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -20,12 +17,13 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QUrl>
-#include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <memory>
 
 #include "fake_platform.h"
+#include "shell_program_folder.h"
+#include "state/settings.h"
 #include "test_files.h"
 #include "ui/changes_dialog.h"
 #include "ui/main_window.h"
@@ -42,10 +40,6 @@ using zentrel::testing::WriteFile;
 
 namespace {
 
-QString Plain(QString caption) {
-  return caption.replace(QStringLiteral("&&"), QStringLiteral("&"));
-}
-
 std::string Page(const std::string& title, const std::string& body) {
   return "<html><head><title>" + title +
          "</title><meta name=\"keywords\" content=\"alpha, beta\"></head><body>" + body +
@@ -56,13 +50,8 @@ std::string Page(const std::string& title, const std::string& body) {
 
 class MainWindowTest : public ::testing::Test {
  protected:
-  MainWindowTest() : platform(folder.path().string()) {
+  MainWindowTest() {
     zentrel::testing::App();
-    // The program folder is a scratch copy, so the preferences file lands there.
-    const fs::path dictionary =
-        fs::path(QCoreApplication::applicationDirPath().toStdString()) / "dictionary";
-    if (fs::exists(dictionary))
-      fs::copy(dictionary, folder.path() / "dictionary", fs::copy_options::recursive);
     window = std::make_unique<MainWindow>(platform);
     window->show();
   }
@@ -87,182 +76,57 @@ class MainWindowTest : public ::testing::Test {
   }
   QString Text(const std::string& name) { return Front<QPlainTextEdit>(name)->toPlainText(); }
   std::string Save(const std::string& name, const std::string& bytes) {
-    const std::string path = folder.File(name);
-    WriteFile(path, bytes);
-    return path;
+    WriteFile(folder.File(name), bytes);
+    return folder.File(name);
   }
   void Load(const std::string& path) {
     platform.AnswerOpen(path);
     Click("Command1");
   }
 
-  zentrel::testing::TempFolder folder;
-  zentrel::testing::FakePlatform platform;
+  // The program folder is a scratch copy, so the preferences file lands there.
+  zentrel::testing::ShellProgramFolder folder;
+  zentrel::testing::FakePlatform platform{folder.Path()};
   std::unique_ptr<MainWindow> window;
 };
 
-// Buttons, check boxes and menu entries by name; frames and labels by their text.
-TEST_F(MainWindowTest, EveryControlIsThereWithItsCaption) {
+// After start-up the check boxes show the settings' defaults, the lists their first picks.
+TEST_F(MainWindowTest, StartsWithTheDefaultsShown) {
   EXPECT_EQ(window->windowTitle(), QStringLiteral("[*]   Zentrel V1.62"));
-  auto* tabs = W<QTabWidget>("SSTab1");
-  QStringList tabTexts;
-  for (int i = 0; i < tabs->count(); ++i)
-    tabTexts << tabs->tabText(i).remove(u'&');
-  EXPECT_EQ(tabTexts, (QStringList{"Scan Keywords", "Edit Meta Tags", "View Body", "Page Report",
-                                   "Checks", "Edit Page", "Prefs"}));
-
-  const std::pair<const char*, const char*> captions[] = {
-      {"Command1", "Load Page"},
-      {"Command2", "Rescan"},
-      {"Users_METATAGS_Clear_Command", "clear"},
-      {"KeyWords_SortList", "Sort KeyWords"},
-      {"KeyWords_RemoveDoubleKeyWordListings", "Remove Duplicate Keywords"},
-      {"KeyWords_ForceSameCaseMatching", "Keywords Match Case Insensitive"},
-      {"KeyWords_MinKeyWordMatches_Option", "Remove Keywords With Less Than"},
-      {"KeyWords_MatchScanType_CheckBOx", "Match KeyWords Against  Unique Words"},
-      {"KeyWordMatch_Disable_Part_Keyword_Matches", "Disable Part KeyWord Matching"},
-      {"WordMatch_ForceCase", "Word Match Case Insensitive"},
-      {"WordMatch_IgnoreAlphaNumericWords", "Word Match Ingore Alpha Numeric"},
-      {"MetaTagFunctions_ReThreadDocument", "Rebuild Page"},
-      {"MetaTagFunctions_MArk_ALL_Checkboxes", "Mark ALL"},
-      {"MetaTagFunctions_UnMArk_ALL_Checkboxes", "UnMark ALL"},
-      {"MetaTagFunctions_LoadMarked", "Load  Marked"},
-      {"MetaTagFunctions_SaveMarked", "Save Marked"},
-      {"MetaTagFunctions_ClearALL", "Clear ALL"},
-      {"MetaTagFunctions_ClearMarked", "Clear Marked"},
-      {"MetaTagFunctions_CopyMarkedToClip", "Copy Marked To Clip"},
-      {"MetaTagFunctions_PasteClipToMarked", "Paste Clip To Marked"},
-      {"PageMetaTags_Expires_SetDate", "Set Date"},
-      {"ViewBody_SaveAs", "Save Body As"},
-      {"ViewBody_ShowRAWBODY_CHeckBox", "Show Raw Body"},
-      {"PageReport_SAVEAS", "Save Report As"},
-      {"PageReport_Export_WordCount_CheckBox", "Include Word Count"},
-      {"EditHtml_SearchCaseFlag", "Match Case"},
-      {"Html_Document_Editor_Find", "Find First"},
-      {"Html_Document_Editor_DOFindNext", "Find Next"},
-      {"EditWordFilters_ClearDictionary", "Clear"},
-      {"EditWordFilters_MergeDictionary", "Merge"},
-      {"EditWordFilters_ResortUpdateFilters", "Resort"},
-      {"EditWordFilters_SAVE", "Save"},
-      {"Command9", "Defaults"},
-      {"EditWordFilters_LoadDictionary", "Load"},
-      {"EditWordFilters_SAVEAS", "Save As"},
-      {"WordFiltersPage_SelectDefaultWordDictionary_Button", "Select Default"},
-      {"WordFiltersPage_ResetDefaultWordDictionary_Button", "Reset Default"},
-      {"HtmlDecodePref_IncludeTitleWithBody_CheckBox", "Include Title With Body"},
-      {"HtmlDecodePref_IncludeALTTEXT_CheckBox", "Include Alt Image Text "},
-      {"HtmlDecodePref_IncludeBODYTEXT_CheckBox", "Include BODY"},
-      {"HtmlDecodePref_IncludeMetaDizzyWithBody_CheckBox", "Include Meta Description With Body"},
-      {"HtmlDecodePref_WordDecodeStopCHR_Button", "Defaults"},
-      {"MetaTagEncodePref_SwapContentAndNameOrder_CheckBox", "Swap Content & Name Order"},
-      {"MetaTagEncodePref_UseComaSpaceBetweenKeyWords_CheckBox", "Seperate Keywords by Coma/Space"},
-      {"TagsOption_USE_META_TITLE", "Include Optional META TITLE"},
-      {"Check2", "Replace Known META TAGS"},
-      {"Mnu_File_new", "&New"},
-      {"mnu_file_Load", "&Load Page"},
-      {"mnu_File_SAVE", "&Save Page"},
-      {"mnu_File_SAVESA", "&Save Page As"},
-      {"mnu_File_Quit", "&Quit"},
-      {"mnu_Help_Docs", "Docs"},
-      {"mnu_Help_About", "About"}};
-  for (const auto& [name, caption] : captions) {
-    auto* action = window->findChild<QAction*>(QString::fromLatin1(name));
-    const QString text = action ? action->text() : Plain(W<QAbstractButton>(name)->text());
-    EXPECT_EQ(text, QString::fromLatin1(caption)) << name;
+  std::string marks;
+  for (const state::Setting& row : state::Settings()) {
+    if (row.CheckBox)
+      marks += W<QAbstractButton>(std::string(row.Control))->isChecked() ? '1' : '0';
   }
-  EXPECT_FALSE(W<QToolButton>("Picture2")->icon().isNull());
-  for (int i = 0; i < 13; ++i) {
-    W<QLineEdit>("MetaTag_TextBox_" + std::to_string(i));
-    W<QAbstractButton>("MetaTag_Selection_CheckBox_" + std::to_string(i));
-  }
-  for (int i = 1; i <= 5; ++i)
-    EXPECT_FALSE(
-        Find<QAction>(window.get(), "mnu_file_QuickLoadFile" + std::to_string(i))->isVisible());
-
-  QStringList texts;
-  for (const QLabel* label : window->findChildren<QLabel*>())
-    texts << label->text();
-  for (const QGroupBox* box : window->findChildren<QGroupBox*>())
-    texts << box->title();
-  for (const char* text :
-       {"Page Title",
-        "Description",
-        "Abstract",
-        "Keywords",
-        "Generator",
-        "Program ID",
-        "Author",
-        "Copyright",
-        "Rating",
-        "Robots",
-        "Revisit After",
-        "Distribution",
-        "Expires",
-        "Additional Keywords",
-        "KeyWord Matches",
-        "KeyWord Density",
-        "Body Word Count",
-        "Word Delimiters",
-        "Default File Extension",
-        "Enter your filter words within this text box, once your done, hit Resort",
-        "Filter Dictionary",
-        "HTML Decoder Prefs",
-        "HTML Encoder Prefs",
-        "Environment Prefs"})
-    EXPECT_TRUE(texts.contains(QString::fromLatin1(text))) << text;
-
-  // The choice lists are filled at start-up; the report is in a fixed-width font.
+  EXPECT_EQ(marks, "0111110111100100");
+  EXPECT_EQ(W<QLineEdit>("HtmlDecodePref_WordDecodeStopCHR_TextBox")->text(),
+            QString::fromLatin1(state::kDefaultWordDelimiters));
   EXPECT_EQ(W<QComboBox>("PageMetaTags_Robots_DropDown")->currentText(), QStringLiteral("Select"));
-  EXPECT_EQ(W<QComboBox>("PageMetaTags_Expires_Year")->count(), 101);
   EXPECT_EQ(W<QComboBox>("KeyWords_MinKeyWordMatches_DropDown")->currentText(),
             QStringLiteral(" 1 Match"));
   EXPECT_EQ(W<QPlainTextEdit>("ReportTextBox")->font().styleHint(), QFont::TypeWriter);
+  EXPECT_FALSE(Find<QAction>(window.get(), "mnu_file_QuickLoadFile1")->isVisible());
 }
 
-// A UTF-8 page: the report, the result boxes and the fields show its accented letters.
-TEST_F(MainWindowTest, LoadingAPageFillsTheReportBoxesAndFields) {
-  const std::string path = Save("shoes.html", ReadTestData("ui_sample_page.html"));
-  Load(path);
-  EXPECT_TRUE(platform.messages.empty());
-  EXPECT_EQ(window->PageCodec(), Codec::Utf8);
-  EXPECT_EQ(window->windowTitle(), QString::fromStdString(path) + "[*]   Zentrel V1.62");
-  EXPECT_TRUE(Text("ReportTextBox").contains(QStringLiteral("Title: Caf\u00E9 Shoes and Boots")));
-  EXPECT_TRUE(Text("ScanKeyWords_KeyWordMatches_TextBox").contains(QStringLiteral("- shoes")));
-  EXPECT_TRUE(Text("ScanKeyWords_KeyWordDensity_TextBox").contains(QStringLiteral("% - boots")));
-  EXPECT_FALSE(Text("ScanKeyWords_DocumentWordCount_TextBox").isEmpty());
-  EXPECT_FALSE(Text("ScanKeyWords_StrippedHTMLDocument_TextBox").isEmpty());
-  EXPECT_TRUE(
-      W<QLabel>("Body_Word_Count_label2")->text().startsWith(QStringLiteral("Word Count=")));
-  EXPECT_EQ(W<QLineEdit>("MetaTag_TextBox_6")->text(), QStringLiteral("Zo\u00EB Bront\u00EB"));
-  EXPECT_EQ(W<QLineEdit>("MetaTag_TextBox_6")->toolTip(),
-            QStringLiteral("This Field is 12 Characters Long"));
-  EXPECT_TRUE(Text("Html_Document_Editor").startsWith(QStringLiteral("<html>\n<head>\n")));
-}
-
-TEST_F(MainWindowTest, AnEditedFieldReachesThePageOnRebuildAndSaveKeepsTheOtherBytes) {
+// A UTF-8 page: the report, the result boxes and the fields show its accented letters; an
+// edited field reaches the page on a rebuild, and saving keeps the page's other bytes.
+TEST_F(MainWindowTest, LoadEditRebuildAndSaveAUtf8Page) {
   const std::string original = ReadTestData("ui_sample_page.html");
   const std::string path = Save("shoes.html", original);
   Load(path);
+  EXPECT_EQ(window->PageCodec(), Codec::Utf8);
+  EXPECT_EQ(window->windowTitle(), QString::fromStdString(path) + "[*]   Zentrel V1.62");
+  EXPECT_TRUE(Text("ReportTextBox").contains(QStringLiteral("Title: Caf\u00E9 Shoes and Boots")));
+  EXPECT_TRUE(Text("ScanKeyWords_KeyWordDensity_TextBox").contains(QStringLiteral("% - boots")));
+  EXPECT_EQ(W<QLineEdit>("MetaTag_TextBox_6")->text(), QStringLiteral("Zo\u00EB Bront\u00EB"));
+  EXPECT_EQ(W<QLineEdit>("MetaTag_TextBox_6")->toolTip(),
+            QStringLiteral("This Field is 12 Characters Long"));
+
   auto* author = W<QLineEdit>("MetaTag_TextBox_6");
   author->setFocus();
   author->selectAll();
   zentrel::testing::Type(author, QStringLiteral("J\u00FCrgen"));
   EXPECT_EQ(author->toolTip(), QStringLiteral("This Field is 7 Characters Long"));
-
-  // A pick in a choice list writes its field; "Set Date" composes the expiry date.
-  for (const auto& [name, entry] : {std::pair{"PageMetaTags_RevisitAfter_DropDown", " 30 days"},
-                                    {"PageMetaTags_Expires_Day", " 9"},
-                                    {"PageMetaTags_Expires_Month", "December"},
-                                    {"PageMetaTags_Expires_Year", " 2101"}}) {
-    auto* list = W<QComboBox>(name);
-    const int index = list->findText(QString::fromLatin1(entry));
-    ASSERT_GE(index, 0) << name;
-    list->setCurrentIndex(index);
-    emit list->activated(index);
-  }
-  Click("PageMetaTags_Expires_SetDate");
-  EXPECT_EQ(W<QLineEdit>("MetaTag_TextBox_10")->text(), QStringLiteral("30 days"));
-  EXPECT_EQ(W<QLineEdit>("MetaTag_TextBox_12")->text(), QStringLiteral("9 December 2101"));
 
   Click("MetaTagFunctions_ReThreadDocument");
   const QString page = Text("Html_Document_Editor");
@@ -295,45 +159,10 @@ TEST_F(MainWindowTest, SearchSelectsEachMatchInThePageSource) {
             editor->toPlainText().indexOf(QStringLiteral("TITLE")));
 }
 
-TEST_F(MainWindowTest, ARunTimeErrorLeavesTheWindowUsable) {
-  std::string keywords;  // more than the keyword table can hold
-  for (int i = 0; i < 2000; ++i)
-    keywords += "k,";
-  Load(Save("many.html", "<html><head><meta name=\"keywords\" content=\"" + keywords +
-                             "\"></head><body>words</body></html>"));
-  ASSERT_EQ(platform.messages.size(), 1u);
-  EXPECT_NE(platform.messages[0].find("Run-time error"), std::string::npos) << platform.messages[0];
-  EXPECT_EQ(platform.busyDepth, 0);
-
-  Load(Save("next.html", Page("Next page", "alpha beta gamma")));
-  EXPECT_EQ(platform.messages.size(), 1u);
-  EXPECT_EQ(W<QLineEdit>("MetaTag_TextBox_0")->text(), QStringLiteral("Next page"));
-}
-
-// The preferences file names a filter dictionary of more words than its 16-bit count holds:
-// start-up shows the Overflow and the window comes up usable, filtering with the words read
-// before the error.
-TEST_F(MainWindowTest, AStartUpErrorIsShownAndTheWindowComesUpUsable) {
-  const std::string big = Save("big.txt", zentrel::testing::OversizedFilterDictionary());
-  Save("Zentrel_Pref.txt", "DefaultWordFilterDictionary:" + big + "\r\n");
-  window = std::make_unique<MainWindow>(platform);
-  window->show();
-  EXPECT_EQ(platform.messages, std::vector<std::string>{"Run-time error '6': Overflow"});
-  EXPECT_TRUE(window->isVisible());
-
-  Load(Save("page.html", Page("Title", " wb hello wc")));
-  EXPECT_EQ(platform.messages.size(), 1u);
-  const QString counted = Text("ScanKeyWords_DocumentWordCount_TextBox");
-  EXPECT_TRUE(counted.contains(QStringLiteral("hello")));
-  EXPECT_FALSE(counted.contains(QStringLiteral("wb"))) << "read before the error, so filtered";
-}
-
-TEST_F(MainWindowTest, TheRecentMenuListsTheLastLoadsNewestFirst) {
+TEST_F(MainWindowTest, ADroppedPageLoadsAndTheRecentMenuReopensAnEntry) {
   Load(Save("a.htm", Page("Page A", "alpha")));
-  Load(Save("b.htm", Page("Page B", "beta")));
-  // A page dropped on the window counts as a load.
   QMimeData mime;
-  mime.setUrls({QUrl::fromLocalFile(QString::fromStdString(Save("c.htm", Page("Page C", "c"))))});
+  mime.setUrls({QUrl::fromLocalFile(QString::fromStdString(Save("b.htm", Page("Page B", "b"))))});
   EXPECT_TRUE(window->DropPage(mime));
   auto entry = [&](int i) {
     return Find<QAction>(window.get(), "mnu_file_QuickLoadFile" + std::to_string(i));
@@ -346,7 +175,6 @@ TEST_F(MainWindowTest, TheRecentMenuListsTheLastLoadsNewestFirst) {
 
   entry(3)->trigger();
   EXPECT_TRUE(Text("ReportTextBox").contains(QStringLiteral("Title: Page A")));
-  EXPECT_TRUE(entry(1)->text().endsWith(QStringLiteral("c.htm")));
 }
 
 TEST_F(MainWindowTest, AWindows1252PageShowsAndSavesByteForByte) {
@@ -365,26 +193,20 @@ TEST_F(MainWindowTest, AWindows1252PageShowsAndSavesByteForByte) {
 
 TEST_F(MainWindowTest, HelpOpensTheDocsAndQuitEndsTheProgram) {
   Trigger("mnu_Help_Docs");
-  EXPECT_EQ(platform.openedDocuments.at(0), folder.path().string() + "/docs/index.htm");
+  EXPECT_EQ(platform.openedDocuments.at(0), folder.File("docs/index.htm"));
   Trigger("mnu_Help_About");
   EXPECT_TRUE(W<QDialog>("frmAbout")->isVisible());
-  EXPECT_EQ(W<QLabel>("ProgramVersion")->text(), QStringLiteral("V1.62"));
-  window->ShowSplash();
-  auto* start = W<QAbstractButton>("Frm_SplashScreen_Start");
-  EXPECT_EQ(start->text(), QStringLiteral("Lets Start"));
-  start->click();
-  EXPECT_FALSE(W<QDialog>("Frm_SplashScreen")->isVisible());
 
   Trigger("mnu_File_Quit");
   EXPECT_FALSE(window->isVisible());
   EXPECT_FALSE(W<QDialog>("frmAbout")->isVisible());
-  EXPECT_TRUE(fs::exists(folder.path() / "Zentrel_Pref.txt"));
+  EXPECT_TRUE(fs::exists(folder.File("Zentrel_Pref.txt")));
 }
 
 TEST_F(MainWindowTest, ClosingTheWindowSavesTheSettingsShown) {
   W<QAbstractButton>("WordMatch_ForceCase")->click();
   EXPECT_TRUE(window->close());
-  const std::string prefs = ReadFile(folder.path() / "Zentrel_Pref.txt");
+  const std::string prefs = ReadFile(folder.File("Zentrel_Pref.txt"));
   EXPECT_NE(prefs.find("WordMatch_ForceSameCase: 1\r\n"), std::string::npos) << prefs;
 }
 

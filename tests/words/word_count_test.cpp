@@ -1,10 +1,8 @@
 #include "words/word_count.h"
 
-#include <gtest/gtest.h>
-
 #include "base/run_time_error.h"
-#include "fake_platform.h"
-#include "state/app_state.h"
+#include "commands/word_filters.h"
+#include "started_program.h"
 #include "words/filter_dictionary.h"
 #include "words/word_extraction.h"
 
@@ -13,18 +11,10 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-struct Counter {
-  testing::FakePlatform platform;
-  AppState s{platform};
-
+// Filtering with the given words only.
+struct Counter : testing::Started {
   explicit Counter(const Words& filters = {}) {
-    for (int c = 'a'; c <= 'z'; ++c)
-      s.LetterTable[static_cast<size_t>(c)] = s.LetterTable[static_cast<size_t>(c - 32)] = 1;
-    s.WordDelimiterChars = "\"#=<>^()[]{}/.,;:+-_*&!?@%";
-    Init_Get_word_string_Chr_table(s);
-    s.WordMatchIgnoreAlphaNumeric = 1;
-    s.FilterCapacity = 1000;
-    s.FilterWords.assign(1001, "");
+    s.FilterCount = 0;
     for (const std::string& w : filters)
       Add_Word_Filter(s, w);
     Build_Filter_Words_Text(s);
@@ -38,6 +28,27 @@ struct Counter {
     for (size_t i = 0; i < static_cast<size_t>(s.UniqueWordCount); ++i)
       dictionary.push_back(s.UniqueWords[i] + "=" + std::to_string(s.UniqueWordCounts[i]));
     return {{s.DocumentWords.begin(), s.DocumentWords.begin() + s.DocumentWordCount}, dictionary};
+  }
+  // Every word of the text, read the way the word count walks it.
+  Words All(const std::string& text) {
+    s.StrippedText = text;
+    Words out;
+    for (int32_t i = 1; i <= static_cast<int32_t>(text.size()); ++i) {
+      const std::string word = Get_Word_String(s, i);
+      if (!word.empty())
+        out.push_back(word);
+      i += static_cast<int32_t>(word.size());
+    }
+    return out;
+  }
+  Words Rebuild(const std::string& box) {
+    s.Form.WordFiltersPage_WordDictionary = box;
+    commands::Resort_And_Removed_Doubles_From_Filter_Dictionary(s);
+    return {s.FilterWords.begin(), s.FilterWords.begin() + s.FilterCount};
+  }
+  Words Split(const std::string& text) {
+    const int16_t n = Split_String(s, text);
+    return {s.Split_String_List.begin(), s.Split_String_List.begin() + n};
   }
 };
 
@@ -94,7 +105,8 @@ TEST(Word_Count_Stripped_Text, EverySpellingKeptWholeAndCountedOnAfterASort) {
 
   // The dictionary stays countable after its sort moved the words.
   c.Count("dog cat cat ");
-  Add_Word_To_Dictionary(c.s, "dog");
+  c.s.WordMatchForceCase = 1;  // folded before it is looked up
+  Add_Word_To_Dictionary(c.s, "DOG");
   Add_Word_To_Dictionary(c.s, "eel");
   EXPECT_EQ(c.s.UniqueWordCount, 3);
   EXPECT_EQ(std::make_pair(c.s.UniqueWords[1], c.s.UniqueWordCounts[1]),
@@ -123,6 +135,83 @@ TEST(Word_Count_Stripped_Text, LimitsOfTheCounts) {
   } catch (const RunTimeError& e) {
     EXPECT_EQ(e.Code(), RunTimeError::kOverflow);
   }
+}
+
+TEST(Get_Word_String, ReadsOneWordAndDropsTheTextsLastCharacter) {
+  Counter w;
+  EXPECT_EQ(w.All("e-mail don't a+b 50% caf\xe9 x "),
+            (Words{"e", "mail", "don't", "a", "b", "50", "caf\xe9", "x"}));
+  EXPECT_EQ(w.All("abc"), Words{"ab"});
+  for (int32_t start : {3, 4, 1000, -7})
+    EXPECT_EQ(Get_Word_String(w.s, start), "") << start;
+  w.s.WordDelimiterChars += "'";
+  Init_Get_word_string_Chr_table(w.s);
+  EXPECT_EQ(w.All("don't "), (Words{"don", "t"}));
+}
+
+TEST(Split_String, CutsAtCommasAndLowControlCodesKeepingQuirks) {
+  Counter w;
+  const std::pair<std::string, Words> cases[] = {
+      {"red, green ,blue", {"red", "green", "blue"}},
+      {"", {}},
+      {"a,b,", {"a", "b,"}},
+      {"a\r\nb", {"a\r", "b"}},
+      {"a,,b\tc", {"a", "", "b", "c"}},
+  };
+  for (const auto& [text, pieces] : cases)
+    EXPECT_EQ(w.Split(text), pieces) << text;
+
+  std::string many(2001, ',');
+  for (size_t i = 0; i < many.size(); i += 2)
+    many[i] = 'w';
+  EXPECT_EQ(w.Split(many).size(), 1001u);
+  try {
+    w.Split(many + ",x");
+    FAIL() << "the 1002nd piece must not fit";
+  } catch (const RunTimeError& e) {
+    EXPECT_EQ(e.Code(), RunTimeError::kSubscriptOutOfRange);
+  }
+}
+
+TEST(MakeStringSingleSpaced, CollapsesDoubleQuotePairsOnly) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"a\"\"b", "a b"}, {"\"\"\"\"", "  "}, {"\"\"\"", " \""}, {"a  b", "a  b"}};
+  for (const auto& [in, out] : cases)
+    EXPECT_EQ(MakeStringSingleSpaced(in), out) << in;
+}
+
+using commands::Load_Word_Filter_Dictionary;
+using commands::Resort_And_Removed_Doubles_From_Filter_Dictionary;
+using commands::Save_Word_Filter_Dictionary;
+
+TEST(Resort_And_Removed_Doubles_From_Filter_Dictionary, CleansSortsAndDropsRepeats) {
+  Counter d;
+  EXPECT_EQ(d.Rebuild("The, and\r\nof\r\nthe"), (Words{"and", "of", "the"}));
+  EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "and\r\nof\r\nthe\r\n");
+  Build_Filter_Words_Text(d.s);
+  EXPECT_EQ(d.s.FilterWordsText, " and of the  ");
+
+  // Ordinal order, byte by byte; a lone LF or a tab does not separate entries.
+  EXPECT_EQ(d.Rebuild("b2\r\nb10\r\n\xE4h\r\nzed\nyes\r\nb10,, \t x"),
+            (Words{"\t x", "b10", "b2", "zed\nyes", "\xE4h"}));
+  // A single word leaves an empty list; two equal words are a repeat: one stays.
+  EXPECT_EQ(d.Rebuild("lonely"), Words{});
+  EXPECT_EQ(d.Rebuild("x1,X1"), Words{"x1"});
+}
+
+// CR-only line ends end entries too.
+TEST(Load_Word_Filter_Dictionary, ReadsListItemsAndSavesTheBox) {
+  Counter d;
+  testing::WriteFile(d.folder.File("user.txt"), "cats and dogs\r\"x, y\",Zebra\r");
+  d.s.Form.WordFiltersPage_WordDictionary = "unchanged";
+  Load_Word_Filter_Dictionary(d.s, d.folder.File("missing.txt"), "");
+  EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "unchanged");
+
+  Load_Word_Filter_Dictionary(d.s, d.folder.File("user.txt"), "and\r\n");
+  EXPECT_EQ(d.s.Form.WordFiltersPage_WordDictionary, "and\r\ncats and dogs\r\nx, y\r\nZebra\r\n");
+  Save_Word_Filter_Dictionary(d.s, d.folder.File("saved.txt"));
+  EXPECT_EQ(testing::ReadFile(d.folder.File("saved.txt")),
+            "and\r\ncats and dogs\r\nx, y\r\nZebra\r\n\r\n");
 }
 
 }  // namespace
