@@ -128,15 +128,15 @@ eval "$(awk -v out="$out" '
   name == "fsync" && fd != "" && index($0, "fsync(" fd ")") && !done { print "n_fsync=" n[name] }
   name == "close" && fd != "" && index($0, "close(" fd ")") && !done { print "n_close=" n[name]; done = 1 }
   name == "rename" && /\.zentrel-/ { print "n_rename=" n[name]; renamed = 1 }
-  name == "openat" && renamed && index($0, "\"" out "\"") && !reread { reread = n[name]; print "n_reread=" reread }
+  name == "openat" && renamed && /O_DIRECTORY/ && !dirsync { dirsync = n[name]; print "n_dirsync=" dirsync }
   name == "openat" && !tmp && index($0, "page.html") && !pageread { pageread = n[name]; print "n_pageread=" pageread }
   END { print "n_writes=\"" w "\"" }' "$work/trace")"
-for v in n_open n_fsync n_close n_rename n_reread n_pageread; do
+for v in n_open n_fsync n_close n_rename n_dirsync n_pageread; do
   [ -n "${!v:-}" ] || { echo "could not find the $v call in the trace"; exit 1; }
 done
 read -r -a writes <<<"$n_writes"
 echo "save calls: openat #$n_open, write #${writes[*]}, fchmod #${n_fchmod:-?}, fsync #$n_fsync," \
-  "close #$n_close, rename #$n_rename; read-back openat #$n_reread"
+  "close #$n_close, rename #$n_rename; folder openat #$n_dirsync"
 
 # --- injected errors ------------------------------------------------------------------------
 inject() {  # syscall errno when expected-target [step text]
@@ -170,16 +170,16 @@ if [ -n "${n_fchmod:-}" ]; then
   inject fchmod EPERM "$n_fchmod" new
   echo "fchmod refused: the saved page has mode $(stat -c %a "$out") (old: 644)"
 fi
-# Failing the page's own read or the read-back after the rename: nothing saved, or the new
-# page saved whole.
+# Failing the page's own read or the folder's open for its sync after the rename: nothing
+# saved, or the new page saved whole.
 reset "$dir" "$out"
 strace -f -qq -o /dev/null -e trace=openat -e inject="openat:error=EIO:when=$n_pageread" \
   "$cli" rebuild "$page" -o "$out" --set description=x 2>"$work/err"
 check_target "openat:error=EIO:when=$n_pageread (page read)" old no
 reset "$dir" "$out"
-strace -f -qq -o /dev/null -e trace=openat -e inject="openat:error=EACCES:when=$n_reread" \
+strace -f -qq -o /dev/null -e trace=openat -e inject="openat:error=EACCES:when=$n_dirsync" \
   "$cli" rebuild "$page" -o "$out" --set description=x 2>"$work/err"
-check_target "openat:error=EACCES:when=$n_reread (read-back)" new no
+check_target "openat:error=EACCES:when=$n_dirsync (folder sync)" new no
 errors_tried=$((tried - errors_before))
 
 # --- kills at the save's system calls -------------------------------------------------------
@@ -201,7 +201,7 @@ for w in "${writes[@]}"; do kill_at write "$w"; done
 kill_at fsync "$n_fsync"
 kill_at close "$n_close"
 kill_at rename "$n_rename"
-kill_at openat "$n_reread"
+kill_at openat "$n_dirsync"
 
 # --- kills at timed points over a whole run -------------------------------------------------
 reset "$dir" "$out"
